@@ -1,0 +1,17 @@
+// Add: dst = src1 + src2 element by element, in every operand form of the family.
+#include "elementwise.hpp"
+#include "validate.hpp"
+
+namespace tarn::add {
+
+template <Pat P, class T, Layout L>
+tarnStatus run(const Spec& spec, const Call& c) {
+  return elementwise::run<elementwise::AddOp, P, T, L>(elementwise::AddOp{}, spec, c);
+}
+
+}  // namespace tarn::add
+
+#define TARN_HIDDEN __attribute__((visibility("hidden")))
+#define TARN_IMPL_add
+using namespace tarn;
+#include "entries.inc"

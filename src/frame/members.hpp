@@ -1,0 +1,133 @@
+// The exported surface as data.
+//
+// One row per family pattern. The generator (gen/tarngen.cpp) expands every row over the two
+// element types and the layouts the pattern exists in, sorts the names by bytes and writes the
+// public header, the assembly stubs, EntrySlotTable and one binding per export. A member that
+// departs from its row gets an override keyed by its full name, never a special case in code.
+//
+// Check letters run left to right; the first failing one decides the status:
+//   N null pointer   C count < 1   Z size < 1   H shape
+//   T every stride of the call (object, row, element, valObjStride)
+//   E row and element strides only       O object strides only, and only when count > 1
+//   R every roiShift
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace tarn {
+
+enum class Layout : uint8_t { S, L, P };
+
+// How the argument list of a member follows from its pattern.
+enum class Sig : uint8_t {
+  Operands,  // operand blocks in pattern order (vector before constant), dst, sizes, count
+  Scaled1,   // src1, val, src2, dst, len, count: a scalar behind the operand it multiplies
+  Scaled2,   // src1, val1, src2, val2, dst, len, count
+  Copy,      // src block, dst block, sizes, count; two layout letters in the name
+  Extract,   // src block, plain dst pointer, sizes, count
+  Fill,      // dst block, sizes, count
+  Transpose, // src block, width, height, dst block, count
+  Version,   // no arguments, returns the version record
+};
+
+// Work estimate E, formed in wrapping 32-bit arithmetic.
+enum class Est : uint8_t {
+  None,
+  TwoCountPlusOneWH,        // (2*count+1)*width*height
+  ThreeCountWH,             // 3*count*width*height
+  TwoLenCountPlusLen,       // 2*len*count+len
+  TwoLenCountPlusCount,     // 2*len*count+count
+  ThreeLenCount,            // 3*len*count
+  LenCountPlusLenPlusCount, // len*count+len+count
+  TwoCount,                 // 2*count
+};
+
+// The smallest E that goes to the parallel wrapper, per path.
+struct Thr {
+  int32_t sC = 0, sG = 0;  // LayoutS contiguous / general
+  int32_t lC = 0, lG = 0;  // LayoutL contiguous / general
+  int32_t p = 0;           // LayoutP
+};
+
+constexpr Thr thr(int32_t s, int32_t l, int32_t p) { return {s, s, l, l, p}; }
+
+struct Row {
+  std::string_view family;
+  std::string_view pattern;
+  std::string_view impl;  // C++ namespace holding run<>() for this row
+  Sig sig;
+  std::string_view checksS, checksL, checksP;
+  Est est = Est::None;
+  Thr t32{}, t64{};
+};
+
+// What each family computes, for the header's doc comments.
+struct FamilyDoc {
+  std::string_view family, doc;
+};
+
+struct Override {
+  std::string_view name;
+  std::string_view checks{};  // replaces the row's sequence when not empty
+  bool serialOnly = false;    // the estimate is computed, the wrapper never runs
+};
+
+// What a binding hands to its family: the resolved row for one export.
+struct Spec {
+  const char* checks;
+  Est est;
+  int32_t thrC, thrG;  // equal where the path has one threshold
+  bool parallel;
+};
+
+inline constexpr int32_t kElemMatS = 36864, kElemMatG = 18432, kElemMatP = 9216;
+
+// clang-format off
+inline constexpr Row kRows[] = {
+  {"GetLibVersion", "", "version", Sig::Version, "", "", ""},
+
+  // Add: element-wise sums. Matrix arrays choose their threshold after the contiguity test,
+  // vector arrays test E first against one threshold; both end the same way here.
+  {"Add", "mm",   "add", Sig::Operands, "NZT", "", "NZR"},
+  {"Add", "tm",   "add", Sig::Operands, "NZT", "", "NZR"},
+  {"Add", "tt",   "add", Sig::Operands, "NZT", "", "NZR"},
+  {"Add", "vv",   "add", Sig::Operands, "NZT", "", "NZR"},
+  {"Add", "vc",   "add", Sig::Operands, "NZT", "", "NZR"},
+  {"Add", "mam",  "add", Sig::Operands, "NCTZ", "NCZTR", "NCZTR", Est::TwoCountPlusOneWH,
+   {kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP}, {kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP}},
+  {"Add", "tam",  "add", Sig::Operands, "NCZT", "NCZTR", "NCZTR", Est::TwoCountPlusOneWH,
+   {kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP}, {kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP}},
+  {"Add", "mat",  "add", Sig::Operands, "NCZT", "NCZTR", "NCZTR", Est::TwoCountPlusOneWH,
+   {kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP}, {kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP}},
+  {"Add", "tat",  "add", Sig::Operands, "NCZT", "NCZTR", "NCZTR", Est::TwoCountPlusOneWH,
+   {kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP}, {kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP}},
+  {"Add", "mama", "add", Sig::Operands, "NCZT", "NCZTR", "NCZTR", Est::ThreeCountWH,
+   {kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP}, {kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP}},
+  {"Add", "tama", "add", Sig::Operands, "NCZT", "NCZTR", "NCZTR", Est::ThreeCountWH,
+   {kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP}, {kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP}},
+  {"Add", "tata", "add", Sig::Operands, "NCZT", "NCZTR", "NCZTR", Est::ThreeCountWH,
+   {kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP}, {kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP}},
+  {"Add", "vav",  "add", Sig::Operands, "NZTC", "NZTRC", "NZTCR", Est::TwoLenCountPlusLen,
+   thr(20001, 40001, 20001), thr(20001, 20001, 20001)},
+  {"Add", "vava", "add", Sig::Operands, "NCZT", "NCZTR", "NCZTR", Est::ThreeLenCount,
+   thr(20001, 40001, 20001), thr(20001, 20001, 20001)},
+  {"Add", "vac",  "add", Sig::Operands, "NCZT", "NCZTR", "NCZTR", Est::TwoLenCountPlusLen,
+   thr(20001, 40001, 20001), thr(20001, 20001, 20001)},
+  {"Add", "vca",  "add", Sig::Operands, "NCZT", "NCZTR", "NCZTR", Est::LenCountPlusLenPlusCount,
+   thr(20001, 40001, 20001), thr(20001, 20001, 20001)},
+  {"Add", "vaca", "add", Sig::Operands, "NCZT", "NCZTR", "NCZTR", Est::TwoLenCountPlusCount,
+   thr(20001, 40001, 20001), thr(20001, 20001, 20001)},
+};
+
+inline constexpr FamilyDoc kDocs[] = {
+  {"GetLibVersion", "Returns the constant version record of the library."},
+  {"Add", "Element-wise sum of the two operands, one rounded addition per element."},
+};
+
+inline constexpr Override kOverrides[] = {
+  {"tarnAdd_vca_64f_P", "NCZT"},  // takes any roiShift as it is
+};
+// clang-format on
+
+}  // namespace tarn

@@ -1,0 +1,116 @@
+// The library's only SSE intrinsics. Kernels speak of chunks of a row: a run of 1, 2 or 4
+// floats, or 1 or 2 doubles, loaded into one 16-byte register and stored back the same way, so
+// no access ever covers an element outside the row. A row of 3 floats is one 8-byte and one
+// 4-byte chunk: the fourth float of a 16-byte row slot, which may be the caller's, is never
+// touched.
+#pragma once
+
+#include <pmmintrin.h>
+
+#include <cstdint>
+#include <type_traits>
+#include <utility>
+
+namespace tarn::simd {
+
+template <class T> struct VecOf;
+template <> struct VecOf<float> { using type = __m128; static constexpr int lanes = 4; };
+template <> struct VecOf<double> { using type = __m128d; static constexpr int lanes = 2; };
+template <class T> using Vec = typename VecOf<std::remove_const_t<T>>::type;
+template <class T> inline constexpr int kLanes = VecOf<std::remove_const_t<T>>::lanes;
+
+// Load a chunk of Len elements; Aligned only matters for a whole register.
+template <int Len, bool Aligned>
+inline __m128 load(const float* p) {
+  if constexpr (Len == 4) return Aligned ? _mm_load_ps(p) : _mm_loadu_ps(p);
+  else if constexpr (Len == 2) return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p)));
+  else return _mm_load_ss(p);
+}
+template <int Len, bool Aligned>
+inline __m128d load(const double* p) {
+  if constexpr (Len == 2) return Aligned ? _mm_load_pd(p) : _mm_loadu_pd(p);
+  else return _mm_load_sd(p);
+}
+template <int Len, bool Aligned>
+inline void store(float* p, __m128 v) {
+  if constexpr (Len == 4) Aligned ? _mm_store_ps(p, v) : _mm_storeu_ps(p, v);
+  else if constexpr (Len == 2) _mm_store_sd(reinterpret_cast<double*>(p), _mm_castps_pd(v));
+  else _mm_store_ss(p, v);
+}
+template <int Len, bool Aligned>
+inline void store(double* p, __m128d v) {
+  if constexpr (Len == 2) Aligned ? _mm_store_pd(p, v) : _mm_storeu_pd(p, v);
+  else _mm_store_sd(p, v);
+}
+
+inline __m128 broadcast(float v) { return _mm_set1_ps(v); }
+inline __m128d broadcast(double v) { return _mm_set1_pd(v); }
+
+inline __m128 add(__m128 a, __m128 b) { return _mm_add_ps(a, b); }
+inline __m128d add(__m128d a, __m128d b) { return _mm_add_pd(a, b); }
+inline __m128 sub(__m128 a, __m128 b) { return _mm_sub_ps(a, b); }
+inline __m128d sub(__m128d a, __m128d b) { return _mm_sub_pd(a, b); }
+inline __m128 mul(__m128 a, __m128 b) { return _mm_mul_ps(a, b); }
+inline __m128d mul(__m128d a, __m128d b) { return _mm_mul_pd(a, b); }
+
+// A row of W elements as chunks: whole registers first, then a pair of floats, then a single.
+// chunkLen<T, W>(k) and chunkOff<T, W>(k) describe chunk k; chunks<T, W>() counts them.
+template <class T>
+constexpr int chunkLenAt(int remaining) {
+  constexpr int lanes = kLanes<T>;
+  return remaining >= lanes ? lanes : remaining >= 2 ? 2 : 1;
+}
+template <class T, int W>
+constexpr int chunks() {
+  int n = 0;
+  for (int left = W; left > 0; left -= chunkLenAt<T>(left)) ++n;
+  return n;
+}
+template <class T, int W>
+constexpr int chunkOff(int k) {
+  int off = 0, left = W;
+  for (int i = 0; i < k; ++i) {
+    off += chunkLenAt<T>(left);
+    left -= chunkLenAt<T>(left);
+  }
+  return off;
+}
+template <class T, int W>
+constexpr int chunkLen(int k) {
+  return chunkLenAt<T>(W - chunkOff<T, W>(k));
+}
+
+// Calls f.template operator()<K>() for K = 0..N-1.
+template <int N, class F>
+inline void unroll(F&& f) {
+  [&]<int... K>(std::integer_sequence<int, K...>) { (f.template operator()<K>(), ...); }
+  (std::make_integer_sequence<int, N>{});
+}
+
+// A row held in registers.
+template <class T, int W>
+struct Row {
+  Vec<T> c[chunks<T, W>()];
+};
+
+template <int W, bool Aligned, class T>
+inline Row<std::remove_const_t<T>, W> loadRow(T* p) {
+  using U = std::remove_const_t<T>;
+  Row<U, W> r;
+  unroll<chunks<U, W>()>([&]<int K>() { r.c[K] = load<chunkLen<U, W>(K), Aligned>(p + chunkOff<U, W>(K)); });
+  return r;
+}
+template <int W, bool Aligned, class T>
+inline void storeRow(T* p, const Row<T, W>& r) {
+  unroll<chunks<T, W>()>([&]<int K>() { store<chunkLen<T, W>(K), Aligned>(p + chunkOff<T, W>(K), r.c[K]); });
+}
+template <int W, class T>
+inline Row<T, W> broadcastRow(T v) {
+  Row<T, W> r;
+  for (auto& c : r.c) c = broadcast(v);
+  return r;
+}
+
+inline bool aligned16(const void* p) { return (reinterpret_cast<uintptr_t>(p) & 15) == 0; }
+
+}  // namespace tarn::simd
