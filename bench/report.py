@@ -1,0 +1,182 @@
+#!/usr/bin/env python3
+"""Turns the suite's JSON (medians) into docs/benchmarks/results.md and chart.png.
+
+Usage: report.py results.json out_dir
+
+Benchmark names are workload/shape/N:n/contender/T:threads. Peers run on one thread; tarn and
+the memory reference on 1 and 2. Only the standard library and gnuplot are used.
+"""
+import json
+import os
+import subprocess
+import sys
+
+PEERS = ["plain", "eigen", "glm"]
+# The workloads the targets speak of (LayoutS, packed, 32f, 3x3 and 4x4).
+TARGET_ROWS = ["tarnAdd_mama_32f/3x3", "tarnAdd_mama_32f/4x4", "tarnAdd_mam_32f/3x3", "tarnAdd_mam_32f/4x4"]
+
+
+def load(path):
+    with open(path) as f:
+        data = json.load(f)
+    res = {}  # (workload, n, contender, threads) -> (ns/obj, GB/s)
+    order = []
+    for b in data["benchmarks"]:
+        if b.get("aggregate_name", "median") != "median" or b.get("error_occurred"):
+            continue
+        name = b["run_name"].replace("/real_time", "")
+        parts = name.split("/")
+        wl = parts[0] + "/" + parts[1]
+        n = int(parts[2].split(":")[1])
+        who = parts[3]
+        t = int(parts[4].split(":")[1])
+        res[(wl, n, who, t)] = (b["ns/obj"], b["bytes_per_second"] / 1e9)
+        if wl not in order:
+            order.append(wl)
+    return data.get("context", {}), res, order
+
+
+def machine():
+    model, cores = "unknown", os.cpu_count()
+    try:
+        with open("/proc/cpuinfo") as f:
+            for line in f:
+                if line.startswith("model name"):
+                    model = line.split(":", 1)[1].strip()
+                    break
+    except OSError:
+        pass
+    return model, cores
+
+
+def cell(v):
+    return "–" if v is None else f"{v[0]:.2f} ({v[1]:.1f})"
+
+
+def best_peer(res, wl, n):
+    peers = [(res[(wl, n, p, 1)][0], p) for p in PEERS if (wl, n, p, 1) in res]
+    return min(peers) if peers else (None, None)
+
+
+def sizes(res, wl):
+    return sorted({k[1] for k in res if k[0] == wl})
+
+
+def table(res, order):
+    out = ["| workload | N | threads | tarn ns/obj | tarn GB/s | plain | eigen | glm | memref | best peer / tarn | tarn / memref |",
+           "|---|---:|---:|---:|---:|---:|---:|---:|---:|---:|---:|"]
+    for wl in order:
+        for n in sizes(res, wl):
+            for t in (1, 2):
+                tarn = res.get((wl, n, "tarn", t))
+                if tarn is None:
+                    continue
+                peers = [cell(res.get((wl, n, p, 1))) if t == 1 else "–" for p in PEERS]
+                mem = res.get((wl, n, "memref", t))
+                bp, _ = best_peer(res, wl, n)
+                vs_peer = f"{bp / tarn[0]:.2f}x" if bp else "–"
+                vs_mem = f"{tarn[1] / mem[1] * 100:.0f} %" if mem else "–"
+                out.append(f"| {wl} | {n:,} | {t} | {tarn[0]:.2f} | {tarn[1]:.1f} | " + " | ".join(peers) +
+                           f" | {cell(mem)} | {vs_peer} | {vs_mem} |")
+    return out
+
+
+def targets(res, order):
+    out = []
+    def mark(ok):
+        return "met" if ok else "**missed**"
+    out.append("| target | workload | N | measured | |")
+    out.append("|---|---|---:|---|---|")
+    for wl in TARGET_ROWS:
+        for n in sizes(res, wl):
+            tarn = res.get((wl, n, "tarn", 1))
+            bp, who = best_peer(res, wl, n)
+            if tarn and bp:
+                out.append(f"| no slower than the fastest peer | {wl} | {n:,} | tarn {tarn[0]:.2f} ns/obj, {who} {bp:.2f} | {mark(tarn[0] <= bp)} |")
+        n = 1000000
+        tarn, mem = res.get((wl, n, "tarn", 1)), res.get((wl, n, "memref", 1))
+        if tarn and mem:
+            r = tarn[1] / mem[1]
+            out.append(f"| within 10 % of the memory reference | {wl} | {n:,} | {tarn[1]:.1f} of {mem[1]:.1f} GB/s = {r * 100:.0f} % | {mark(r >= 0.9)} |")
+    n = 100000
+    s = res.get(("tarnAdd_mama_32f/3x3", n, "tarn", 1))
+    for wl in ("tarnAdd_mama_32f_L/3x3", "tarnAdd_mama_32f_P/3x3"):
+        x = res.get((wl, n, "tarn", 1))
+        if s and x:
+            r = x[0] / s[0]
+            out.append(f"| within 1.5x of LayoutS | {wl} | {n:,} | {x[0]:.2f} vs {s[0]:.2f} ns/obj = {r:.2f}x | {mark(r <= 1.5)} |")
+    for wl in order:
+        one, two = res.get((wl, n, "tarn", 1)), res.get((wl, n, "tarn", 2))
+        m1, m2 = res.get((wl, n, "memref", 1)), res.get((wl, n, "memref", 2))
+        if one and two:
+            r = two[1] / one[1]
+            mr = f"; memref {m2[1] / m1[1]:.2f}x" if m1 and m2 else ""
+            out.append(f"| 2 threads at least 1.7x | {wl} | {n:,} | {r:.2f}x{mr} | {mark(r >= 1.7)} |")
+    return out
+
+
+def chart(res, order, out_dir):
+    ns = sorted({k[1] for k in res})
+    dat = os.path.join(out_dir, "chart.dat")
+    with open(dat, "w") as f:
+        for n in ns:
+            f.write(f"# N={n}\n")
+            for wl in order:
+                def gb(who, t=1):
+                    v = res.get((wl, n, who, t))
+                    return f"{v[1]:.3f}" if v else "NaN"
+                peers = [res[(wl, n, p, 1)][1] for p in PEERS if (wl, n, p, 1) in res]
+                label = wl.replace("tarnAdd_", "").replace("/", " ")
+                f.write(f'"{label}" {gb("tarn")} {gb("tarn", 2)} {max(peers) if peers else "NaN"} {gb("memref")}\n')
+            f.write("\n\n")
+    gp = os.path.join(out_dir, "chart.gp")
+    panels = []
+    for i, n in enumerate(ns):
+        panels.append(f"""
+set title "N = {n:,} objects"
+plot "{dat}" index {i} using 2:xtic(1) title "tarn, 1 thread", \\
+     "" index {i} using 3 title "tarn, 2 threads", \\
+     "" index {i} using 4 title "best peer (1 thread)", \\
+     "" index {i} using 5 title "memory reference (1 thread)"
+""")
+    with open(gp, "w") as f:
+        f.write(f"""set terminal pngcairo size 1500,{420 * len(ns) + 80} font "sans,10"
+set output "{os.path.join(out_dir, 'chart.png')}"
+set multiplot layout {len(ns)},1 title "tarn Add: bytes read + written per second (GB/s, higher is better)"
+set style data histogram
+set style histogram cluster gap 1
+set style fill solid 0.85 border -1
+set boxwidth 0.9
+set ylabel "GB/s"
+set yrange [0:*]
+set grid ytics
+set key outside top center horizontal
+set termoption noenhanced
+set xtics rotate by -25 scale 0
+""" + "".join(panels) + "unset multiplot\n")
+    subprocess.run(["gnuplot", gp], check=True)
+    os.remove(gp)
+    os.remove(dat)
+
+
+def main():
+    src, out_dir = sys.argv[1], sys.argv[2]
+    ctx, res, order = load(src)
+    model, cores = machine()
+    lines = ["# tarn benchmark results", "",
+             f"Machine: {model}, {cores} logical cores; taken {ctx.get('date', '?')}, "
+             f"load average at start {', '.join(f'{x:.2f}' for x in ctx.get('load_avg', []))}.", "",
+             "Medians of the repetitions. Each cell is ns/obj (GB/s); GB/s counts bytes read plus bytes "
+             "written per object (LayoutL includes its table pointers). Peers run on one thread. "
+             "`best peer / tarn` above 1 means tarn is faster than every peer (2-thread rows compare "
+             "with the 1-thread peers); `tarn / memref` is tarn's throughput as a share of the "
+             "memory reference on the same number of threads.", "",
+             "## Targets", ""] + targets(res, order) + ["", "## All workloads", ""] + table(res, order) + [""]
+    os.makedirs(out_dir, exist_ok=True)
+    with open(os.path.join(out_dir, "results.md"), "w") as f:
+        f.write("\n".join(lines))
+    chart(res, order, out_dir)
+
+
+if __name__ == "__main__":
+    main()
