@@ -17,6 +17,7 @@
 #include <tarn.h>
 
 #include <Eigen/Core>
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -457,7 +458,8 @@ int main(int argc, char** argv) {
           if (k.who == Who::Peer && t > 1) continue;
           const std::string name = wl.name + "/N:" + std::to_string(n) + "/" + k.name + "/T:" + std::to_string(t);
           benchmark::RegisterBenchmark(name.c_str(), [&wl, &k, n, t](benchmark::State& st) { run(st, wl, k, n, t); })
-              ->UseRealTime();
+              ->UseRealTime()
+              ->ComputeStatistics("min", [](const std::vector<double>& v) { return *std::min_element(v.begin(), v.end()); });
         }
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

@@ -12,6 +12,8 @@ import subprocess
 import sys
 
 PEERS = ["plain", "eigen", "glm"]
+# The statistic over the repetitions: median by default, STAT=min for the fastest repetition.
+STAT = os.environ.get("STAT", "median")
 # The workloads the targets speak of (LayoutS, packed, 32f, 3x3 and 4x4).
 TARGET_ROWS = ["tarnAdd_mama_32f/3x3", "tarnAdd_mama_32f/4x4", "tarnAdd_mam_32f/3x3", "tarnAdd_mam_32f/4x4"]
 
@@ -22,7 +24,7 @@ def load(path):
     res = {}  # (workload, n, contender, threads) -> (ns/obj, GB/s)
     order = []
     for b in data["benchmarks"]:
-        if b.get("aggregate_name", "median") != "median" or b.get("error_occurred"):
+        if b.get("aggregate_name", STAT) != STAT or b.get("error_occurred"):
             continue
         name = b["run_name"].replace("/real_time", "")
         parts = name.split("/")
@@ -166,7 +168,7 @@ def main():
     lines = ["# tarn benchmark results", "",
              f"Machine: {model}, {cores} logical cores; taken {ctx.get('date', '?')}, "
              f"load average at start {', '.join(f'{x:.2f}' for x in ctx.get('load_avg', []))}.", "",
-             "Medians of the repetitions. Each cell is ns/obj (GB/s); GB/s counts bytes read plus bytes "
+             f"{'Medians' if STAT == 'median' else 'Minima'} of the repetitions. Each cell is ns/obj (GB/s); GB/s counts bytes read plus bytes "
              "written per object (LayoutL includes its table pointers). Peers run on one thread. "
              "`best peer / tarn` above 1 means tarn is faster than every peer (2-thread rows compare "
              "with the 1-thread peers); `tarn / memref` is tarn's throughput as a share of the "

@@ -14,6 +14,7 @@
 #pragma once
 
 #include <cstdint>
+#include <numeric>
 
 #include "call.hpp"
 #include "dispatch.hpp"
@@ -185,6 +186,81 @@ template <class T, bool C> bool alignedOperand(const One<StridedObj<T, C>>& a) {
   return simd::aligned16(a.v.p) && (a.v.row & 15) == 0;
 }
 
+// ---- denseBody ---------------------------------------------------------------------------
+
+// Packed batches: rows follow each other without a gap and objects too, so the array operands
+// are single runs of elements and a group of G objects fills a whole number of 16-byte
+// registers (3x3 floats: four objects are nine registers, 3x3 doubles: two objects are nine).
+// Used where a row is not a whole number of registers and the group fits in registers. Every
+// register covers elements of the group only, so nothing outside the operands is touched; the
+// objects left over after the last whole group take the row body.
+template <class T, int H, int W>
+struct Dense {
+  static constexpr int kObjBytes = H * W * int(sizeof(T));
+  static constexpr int kGroup = 16 / std::gcd(kObjBytes, 16);
+  static constexpr int kRegs = kGroup * kObjBytes / 16;
+  static constexpr bool kUse = (W * int(sizeof(T))) % 16 != 0 && kRegs <= 12;
+};
+
+template <int H, int W, class A> bool denseOperand(const A&) { return false; }  // scalars
+template <int H, int W, class E> bool denseOperand(const ArrS<E, true>& a) {
+  constexpr int32_t row = W * int32_t(sizeof(E));
+  return (H == 1 || a.row == row) && a.objStride == H * row;
+}
+template <int H, int W, class E> bool denseOperand(const One<StridedObj<E, true>>& a) {
+  return H == 1 || a.v.row == W * int32_t(sizeof(E));
+}
+template <class A> bool denseAligned(const A& a) { return simd::aligned16(a.obj(0).p); }
+template <class V> bool denseAligned(const One<V>&) { return true; }
+
+// One source of a group as registers: loaded per group, or the single operand of an array call
+// repeated over the G objects of a group and loaded once, element by element.
+template <class T, int H, int W, bool Al, class A>
+class DenseReader {
+  using Dn = Dense<T, H, W>;
+  static constexpr int kL = simd::kLanes<T>;
+  static constexpr bool kShared = IsOne<A>::value;
+  A a_;
+  simd::Vec<T> pre_[kShared ? Dn::kRegs : 1];
+
+ public:
+  explicit DenseReader(const A& a) : a_(a) {
+    if constexpr (kShared) {
+      alignas(16) T rep[Dn::kRegs * kL];
+      const auto o = a_.obj(0);
+      for (int g = 0; g < Dn::kGroup; ++g)
+        for (int r = 0; r < H; ++r)
+          for (int c = 0; c < W; ++c) rep[(g * H + r) * W + c] = *o.at(r, c);
+      for (int k = 0; k < Dn::kRegs; ++k) pre_[k] = simd::load<kL, true>(rep + k * kL);
+    }
+  }
+  simd::Vec<T> reg(const T* p, int k) const {
+    if constexpr (kShared) return pre_[k];
+    else return simd::load<kL, Al>(p + k * kL);
+  }
+  const T* base(int32_t n) const {
+    if constexpr (kShared) return nullptr;
+    else return a_.obj(n).p;
+  }
+};
+
+// Whole groups of the batch; returns the number of objects done.
+template <int H, int W, bool Al, class T, class Op, class D, class A, class B>
+int32_t denseBody(const Op& op, const D& d, const A& a, const B& b, int32_t count) {
+  using Dn = Dense<T, H, W>;
+  constexpr int kL = simd::kLanes<T>;
+  const DenseReader<T, H, W, Al, A> ra(a);
+  const DenseReader<T, H, W, Al, B> rb(b);
+  const int32_t end = count - count % Dn::kGroup;
+  for (int32_t n = 0; n < end; n += Dn::kGroup) {
+    T* pd = d.obj(n).p;
+    const T* pa = ra.base(n);
+    const T* pb = rb.base(n);
+    for (int k = 0; k < Dn::kRegs; ++k) simd::store<kL, Al>(pd + k * kL, op.vec(ra.reg(pa, k), rb.reg(pb, k)));
+  }
+  return end;
+}
+
 // ---- The worker of one path ----------------------------------------------------------------
 
 // Serial worker: objects [0, count) of the accessors it is given (a thread's slice or all).
@@ -196,9 +272,21 @@ void worker(const Op& op, const D& d, const A& a, const B& b, int32_t count, int
     if constexpr (L == Layout::P) {
       plainBody<H, W>(op, cached<H * W>(d), cached<H * W>(a), cached<H * W>(b), count, H, W);
     } else if constexpr (kRows) {
-      if constexpr (L == Layout::L) rowBody<H, W, Align::PerObject, T>(op, d, a, b, count);
-      else if (alignedOperand(d) && alignedOperand(a) && alignedOperand(b)) rowBody<H, W, Align::Yes, T>(op, d, a, b, count);
-      else rowBody<H, W, Align::No, T>(op, d, a, b, count);
+      auto rows = [&](const auto& d, const auto& a, const auto& b, int32_t count) {
+        if constexpr (L == Layout::L) rowBody<H, W, Align::PerObject, T>(op, d, a, b, count);
+        else if (alignedOperand(d) && alignedOperand(a) && alignedOperand(b)) rowBody<H, W, Align::Yes, T>(op, d, a, b, count);
+        else rowBody<H, W, Align::No, T>(op, d, a, b, count);
+      };
+      if constexpr (L == Layout::S && Dense<T, H, W>::kUse) {
+        if (denseOperand<H, W>(d) && denseOperand<H, W>(a) && denseOperand<H, W>(b)) {
+          const int32_t done = denseAligned(d) && denseAligned(a) && denseAligned(b)
+                                   ? denseBody<H, W, true, T>(op, d, a, b, count)
+                                   : denseBody<H, W, false, T>(op, d, a, b, count);
+          if (done < count) rows(d.from(done), a.from(done), b.from(done), count - done);
+          return;
+        }
+      }
+      rows(d, a, b, count);
     } else {
       plainBody<H, W>(op, d, a, b, count, H, W);
     }
