@@ -309,6 +309,12 @@ int32_t streamBody(const Op& op, const D& d, const A& a, const B& b, int32_t cou
   return end;
 }
 
+// Whether the rows of an operand follow each other without a gap; a scalar has no rows.
+template <int W, class A> bool gaplessRows(const A&) { return ScalarAccess<A>::value; }
+template <int W, class E> bool gaplessRows(const ArrS<E, true>& a) { return a.row == W * int32_t(sizeof(E)); }
+template <int W, class E> bool gaplessRows(const ArrL<E, true>& a) { return a.row == W * int32_t(sizeof(E)); }
+template <int W, class E> bool gaplessRows(const One<StridedObj<E, true>>& a) { return a.v.row == W * int32_t(sizeof(E)); }
+
 // ---- The worker of one path ----------------------------------------------------------------
 
 // Serial worker: objects [0, count) of the accessors it is given (a thread's slice or all).
@@ -325,9 +331,16 @@ void worker(const Op& op, const D& d, const A& a, const B& b, int32_t count, int
                         count - done, H, W);
     } else if constexpr (kRows) {
       auto rows = [&](const auto& d, const auto& a, const auto& b, int32_t count) {
-        if constexpr (L == Layout::L) rowBody<H, W, Align::PerObject, T>(op, d, a, b, count);
-        else if (alignedOperand(d) && alignedOperand(a) && alignedOperand(b)) rowBody<H, W, Align::Yes, T>(op, d, a, b, count);
-        else rowBody<H, W, Align::No, T>(op, d, a, b, count);
+        auto body = [&]<int RH, int RW>() {
+          if constexpr (L == Layout::L) rowBody<RH, RW, Align::PerObject, T>(op, d, a, b, count);
+          else if (alignedOperand(d) && alignedOperand(a) && alignedOperand(b)) rowBody<RH, RW, Align::Yes, T>(op, d, a, b, count);
+          else rowBody<RH, RW, Align::No, T>(op, d, a, b, count);
+        };
+        // Rows that follow each other without a gap make each object one run of H*W elements,
+        // taken in fewer chunks than row by row (3x3 floats: 4, 4, 1 instead of 2, 1 per row).
+        if constexpr (H > 1 && (W * int(sizeof(T))) % 16 != 0)
+          if (gaplessRows<W>(d) && gaplessRows<W>(a) && gaplessRows<W>(b)) return body.template operator()<1, H * W>();
+        body.template operator()<H, W>();
       };
       if constexpr (L == Layout::S && Dense<T, H, W>::kUse) {
         if (denseOperand<H, W>(d) && denseOperand<H, W>(a) && denseOperand<H, W>(b)) {
