@@ -26,13 +26,13 @@ def load(path):
     for b in data["benchmarks"]:
         if b.get("aggregate_name", STAT) != STAT or b.get("error_occurred"):
             continue
-        name = b["run_name"].replace("/real_time", "")
+        name = b["run_name"].replace("/manual_time", "").replace("/real_time", "")
         parts = name.split("/")
         wl = parts[0] + "/" + parts[1]
         n = int(parts[2].split(":")[1])
         who = parts[3]
         t = int(parts[4].split(":")[1])
-        res[(wl, n, who, t)] = (b["ns/obj"], b["bytes_per_second"] / 1e9)
+        res[(wl, n, who, t)] = (b["ns/obj"], b["bytes_per_second"] / 1e9, b.get("best_ns/obj"), b["bytes_per_obj"])
         if wl not in order:
             order.append(wl)
     return data.get("context", {}), res, order
@@ -84,36 +84,57 @@ def table(res, order):
 
 
 def targets(res, order):
-    out = []
+    """Each target judged twice: on the medians, and on the fastest single call of each
+    contender (what the code does when the machine leaves it alone)."""
     def mark(ok):
         return "met" if ok else "**missed**"
-    out.append("| target | workload | N | measured | |")
-    out.append("|---|---|---:|---|---|")
+
+    def ns(v, k):
+        return v[0] if k == 0 else v[2]
+
+    out = ["| target | workload | N | medians | | best calls | |", "|---|---|---:|---|---|---|---|"]
+
+    def line(target, wl, n, judge):
+        cells = []
+        for k in (0, 1):
+            text, ok = judge(k)
+            cells += [text, mark(ok)]
+        out.append(f"| {target} | {wl} | {n:,} | " + " | ".join(cells) + " |")
+
     for wl in TARGET_ROWS:
         for n in sizes(res, wl):
             tarn = res.get((wl, n, "tarn", 1))
-            bp, who = best_peer(res, wl, n)
-            if tarn and bp:
-                out.append(f"| no slower than the fastest peer | {wl} | {n:,} | tarn {tarn[0]:.2f} ns/obj, {who} {bp:.2f} | {mark(tarn[0] <= bp)} |")
+            peers = [(p, res[(wl, n, p, 1)]) for p in PEERS if (wl, n, p, 1) in res]
+            if tarn and peers:
+                def judge(k, tarn=tarn, peers=peers):
+                    bp, who = min((ns(v, k), p) for p, v in peers)
+                    return f"tarn {ns(tarn, k):.2f}, {who} {bp:.2f} ns/obj", ns(tarn, k) <= bp
+                line("no slower than the fastest peer", wl, n, judge)
         n = 1000000
         tarn, mem = res.get((wl, n, "tarn", 1)), res.get((wl, n, "memref", 1))
         if tarn and mem:
-            r = tarn[1] / mem[1]
-            out.append(f"| within 10 % of the memory reference | {wl} | {n:,} | {tarn[1]:.1f} of {mem[1]:.1f} GB/s = {r * 100:.0f} % | {mark(r >= 0.9)} |")
+            def judge(k, tarn=tarn, mem=mem):
+                r = ns(mem, k) / ns(tarn, k)
+                return f"{tarn[3] / ns(tarn, k):.1f} of {mem[3] / ns(mem, k):.1f} GB/s = {r * 100:.0f} %", r >= 0.9
+            line("within 10 % of the memory reference", wl, n, judge)
     n = 100000
     s = res.get(("tarnAdd_mama_32f/3x3", n, "tarn", 1))
     for wl in ("tarnAdd_mama_32f_L/3x3", "tarnAdd_mama_32f_P/3x3"):
         x = res.get((wl, n, "tarn", 1))
         if s and x:
-            r = x[0] / s[0]
-            out.append(f"| within 1.5x of LayoutS | {wl} | {n:,} | {x[0]:.2f} vs {s[0]:.2f} ns/obj = {r:.2f}x | {mark(r <= 1.5)} |")
+            def judge(k, x=x):
+                r = ns(x, k) / ns(s, k)
+                return f"{ns(x, k):.2f} vs {ns(s, k):.2f} ns/obj = {r:.2f}x", r <= 1.5
+            line("within 1.5x of LayoutS", wl, n, judge)
     for wl in order:
         one, two = res.get((wl, n, "tarn", 1)), res.get((wl, n, "tarn", 2))
         m1, m2 = res.get((wl, n, "memref", 1)), res.get((wl, n, "memref", 2))
         if one and two:
-            r = two[1] / one[1]
-            mr = f"; memref {m2[1] / m1[1]:.2f}x" if m1 and m2 else ""
-            out.append(f"| 2 threads at least 1.7x | {wl} | {n:,} | {r:.2f}x{mr} | {mark(r >= 1.7)} |")
+            def judge(k, one=one, two=two, m1=m1, m2=m2):
+                r = ns(one, k) / ns(two, k)
+                mr = f"; memref {ns(m1, k) / ns(m2, k):.2f}x" if m1 and m2 else ""
+                return f"{r:.2f}x{mr}", r >= 1.7
+            line("2 threads at least 1.7x", wl, n, judge)
     return out
 
 
@@ -173,7 +194,9 @@ def main():
              "`best peer / tarn` above 1 means tarn is faster than every peer (2-thread rows compare "
              "with the 1-thread peers); `tarn / memref` is tarn's throughput as a share of the "
              "memory reference on the same number of threads.", "",
-             "## Targets", ""] + targets(res, order) + ["", "## All workloads", ""] + table(res, order) + [""]
+             "## Targets", "",
+             "Judged on the medians and on the fastest single call of each contender; the second "
+             "is what the code does when the other jobs on the machine leave it alone.", ""] + targets(res, order) + ["", "## All workloads", ""] + table(res, order) + [""]
     os.makedirs(out_dir, exist_ok=True)
     with open(os.path.join(out_dir, "results.md"), "w") as f:
         f.write("\n".join(lines))
