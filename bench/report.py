@@ -163,7 +163,7 @@ plot "{dat}" index {i} using 2:xtic(1) title "tarn, 1 thread", \\
      "" index {i} using 5 title "memory reference (1 thread)"
 """)
     with open(gp, "w") as f:
-        f.write(f"""set terminal pngcairo size 1500,{420 * len(ns) + 80} font "sans,10"
+        f.write(f"""set terminal pngcairo size 1700,{420 * len(ns) + 80} font "sans,10"
 set output "{os.path.join(out_dir, 'chart.png')}"
 set multiplot layout {len(ns)},1 title "tarn Add: bytes read + written per second (GB/s, higher is better)"
 set style data histogram
@@ -173,7 +173,7 @@ set boxwidth 0.9
 set ylabel "GB/s"
 set yrange [0:*]
 set grid ytics
-set key outside top center horizontal
+set key outside right top vertical
 set termoption noenhanced
 set xtics rotate by -25 scale 0
 """ + "".join(panels) + "unset multiplot\n")

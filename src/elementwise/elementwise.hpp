@@ -190,16 +190,16 @@ template <class T, bool C> bool alignedOperand(const One<StridedObj<T, C>>& a) {
 
 // Packed batches: rows follow each other without a gap and objects too, so the array operands
 // are single runs of elements and a group of G objects fills a whole number of 16-byte
-// registers (3x3 floats: four objects are nine registers, 3x3 doubles: two objects are nine).
-// Used where a row is not a whole number of registers and the group fits in registers. Every
-// register covers elements of the group only, so nothing outside the operands is touched; the
-// objects left over after the last whole group take the row body.
+// registers (3x3 floats: four objects are nine registers, 3x3 doubles: two objects are nine, a
+// 4x4 float object is four registers at fixed displacements). Used where the group fits in 12
+// registers. Every register covers elements of the group only, so nothing outside the operands
+// is touched; the objects left over after the last whole group take the row body.
 template <class T, int H, int W>
 struct Dense {
   static constexpr int kObjBytes = H * W * int(sizeof(T));
   static constexpr int kGroup = 16 / std::gcd(kObjBytes, 16);
   static constexpr int kRegs = kGroup * kObjBytes / 16;
-  static constexpr bool kUse = (W * int(sizeof(T))) % 16 != 0 && kRegs <= 12;
+  static constexpr bool kUse = kRegs <= 12;
 };
 
 template <int H, int W, class A> bool denseOperand(const A&) { return false; }  // scalars
