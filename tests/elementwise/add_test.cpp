@@ -2,6 +2,8 @@
 // and on several threads past the thresholds.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "elementwise.hpp"
 
 namespace tt {
@@ -43,6 +45,42 @@ TEST(Add, ThreadCountsGiveIdenticalBits) {
         }
       }
     }
+  }
+}
+
+}  // namespace
+}  // namespace tt
+
+namespace tt {
+namespace {
+
+// dst the same as src1, with the same strides: each element is read before it is written and
+// nothing else reads it, so every path gives the sum.
+TEST(Add, InPlaceOverTheFirstOperand) {
+  const char* patterns[] = {"mm", "vv", "mam", "vav", "mama", "vava", "vac"};
+  for (const MemberFn* m : membersOf("Add")) {
+    const Name nm = parseName(m->name);
+    if (std::find(std::begin(patterns), std::end(patterns), nm.pattern) == std::end(patterns)) continue;
+    const bool matrix = isMatrixPattern(nm.pattern);
+    unsigned seed = 100;
+    for (const EwShape& s : matrix ? std::vector<EwShape>(std::begin(kMatrixShapes), std::end(kMatrixShapes))
+                                   : std::vector<EwShape>(std::begin(kVectorShapes), std::end(kVectorShapes)))
+      for (const char* p : {"packed", "aligned16", "padded", "strided"})
+        EXPECT_EQ(runElementwise(*m, s, 3, style(p), 1, seed++, refAdd, true).failure, "");
+  }
+}
+
+// A long vector whose dst starts one element behind src1 reads, at each element, what the
+// element before it wrote: the elements are processed in ascending order.
+TEST(Add, OverlappingVectorRunsInAscendingOrder) {
+  for (int len : {2, 7, 8, 9, 20, 33}) {
+    std::vector<float> buf(len + 1), src2(len);
+    for (int i = 0; i <= len; ++i) buf[i] = 1.0f + i;
+    for (int i = 0; i < len; ++i) src2[i] = 0.5f * i;
+    std::vector<float> want = buf;
+    for (int i = 0; i < len; ++i) want[i + 1] = want[i] + src2[i];
+    ASSERT_EQ(tarnAdd_vv_32f(buf.data(), 4, src2.data(), 4, buf.data() + 1, 4, len), tarnStatusOk);
+    EXPECT_EQ(buf, want) << len;
   }
 }
 

@@ -25,7 +25,8 @@ struct EwRun {
 
 // Runs member `m` on objects made from `seed`, in placement `st`, on `threads` threads.
 // `op` is the reference of one element: op(a, b, args, esize) in the element type.
+// With `inPlace` the result is written over the first operand (same description).
 EwRun runElementwise(const MemberFn& m, const EwShape& shape, int count, const Style& st, int threads,
-                     unsigned seed, const RefOp& op);
+                     unsigned seed, const RefOp& op, bool inPlace = false);
 
 }  // namespace tt

@@ -98,6 +98,15 @@ Operand::Operand(char layout, int esize, int rows, int cols, int count, bool arr
   }
 }
 
+Operand::Operand(const Operand& o)
+    : esize_(o.esize_), rows_(o.rows_), cols_(o.cols_), count_(o.count_), mem_(o.mem_), used_(o.used_),
+      off_(o.off_), table_(o.table_), blk_(o.blk_) {
+  base_ = mem_.data() + (o.base_ - o.mem_.data());
+  const std::ptrdiff_t delta = base_ - o.base_;
+  for (auto& t : table_) t = static_cast<uint8_t*>(t) + delta;
+  blk_.ptr = o.table_.empty() ? static_cast<void*>(static_cast<uint8_t*>(o.blk_.ptr) + delta) : table_.data();
+}
+
 void* Operand::at(int n, int r, int c) const { return base_ + off_[(size_t(n) * rows_ + r) * cols_ + c]; }
 
 uint64_t Operand::bits(int n, int r, int c) const {

@@ -32,6 +32,10 @@ class Operand {
   // or 'P'. `array` says whether the block has an object stride or table.
   Operand(char layout, int esize, int rows, int cols, int count, bool array, const Style& st);
 
+  // A copy owns its own arena: its elements, table and block point into the copy.
+  Operand(const Operand& o);
+  Operand& operator=(const Operand&) = delete;
+
   ArgBlk blk() const { return blk_; }
   int esize() const { return esize_; }
   int count() const { return count_; }
