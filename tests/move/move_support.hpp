@@ -11,13 +11,17 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <algorithm>
+#include <cstdlib>
 #include <memory>
+#include <stdexcept>
 #include <random>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "../ref/move_ref.hpp"
+#include "members.hpp"
 #include "tarn.h"
 
 namespace movetest {
@@ -25,35 +29,20 @@ namespace movetest {
 using ref::Lay;
 using ref::Place;
 
-// The argument record the generated invoke table reads.
-struct Args {
-  struct Op {
-    void* ptr = nullptr;
-    int32_t obj = 0, row = 0, elem = 0, roi = 0;
-  } op[4];
-  int32_t width = 0, height = 0, len = 0, count = 0;
-  double val[2] = {0, 0};
-};
+using Args = tt::Args;
 
+// A member callable by name, as the shared harness lists it.
 struct Entry {
   const char* name;
   tarnStatus (*fn)(const Args&);
   const char* checks;
-  bool serialOnly;
 };
-
-inline const std::vector<Entry>& allEntries() {
-  static const std::vector<Entry> all = {
-#include "invoke.inc"
-  };
-  return all;
-}
 
 // Members whose name starts with `prefix`, e.g. "tarnCopy_".
 inline std::vector<Entry> members(std::string_view prefix) {
   std::vector<Entry> out;
-  for (const auto& e : allEntries())
-    if (std::string_view(e.name).substr(0, prefix.size()) == prefix) out.push_back(e);
+  for (const auto& m : tt::allMembers())
+    if (std::string_view(m.name).substr(0, prefix.size()) == prefix) out.push_back({m.name, m.call, m.checks});
   return out;
 }
 
@@ -171,8 +160,8 @@ inline Place place(Arena& ar, Lay lay, int rows, int cols, int count, int es, Fo
 // The operand in the form the call takes, with its tables kept alive here.
 class Bound {
  public:
-  Args::Op bind(const Place& p, std::byte* arena) {
-    Args::Op o;
+  tt::ArgBlk bind(const Place& p, std::byte* arena) {
+    tt::ArgBlk o;
     o.obj = p.obj;
     o.row = p.row;
     o.elem = p.elem;

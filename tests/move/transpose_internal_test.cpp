@@ -9,7 +9,7 @@
 
 #include "platform.hpp"
 #include "tarn.h"
-#include "transpose.hpp"
+#include "../../src/move/transpose.hpp"
 
 extern "C" tarnStatus ownEntry_tarnTranspose_m_32f(const float*, int32_t, int32_t, int32_t, int32_t, float*, int32_t,
                                                    int32_t);
