@@ -118,15 +118,35 @@ inline constexpr Row kRows[] = {
    thr(20001, 40001, 20001), thr(20001, 20001, 20001)},
   {"Add", "vaca", "add", Sig::Operands, "NCZT", "NCZTR", "NCZTR", Est::TwoLenCountPlusCount,
    thr(20001, 40001, 20001), thr(20001, 20001, 20001)},
+  // Data movement: layout conversion, gathering, identity fill, transposition. Always serial.
+  // Copy checks sizes before count, and object strides only when count > 1, last.
+  {"Copy", "ma", "copy", Sig::Copy, "NZCERO", "NZCERO", "NZCERO"},
+  {"Copy", "va", "copy", Sig::Copy, "NZCERO", "NZCERO", "NZCERO"},
+  {"Extract", "m",  "extract", Sig::Extract, "NZT", "", "ZNR"},
+  {"Extract", "t",  "extract", Sig::Extract, "NZT", "", "ZNR"},
+  {"Extract", "v",  "extract", Sig::Extract, "NZT", "", "ZNR"},
+  {"Extract", "ma", "extract", Sig::Extract, "NZCT", "NZCRT", "NZCRT"},
+  {"Extract", "ta", "extract", Sig::Extract, "NZCT", "NZCRT", "NZCRT"},
+  {"Extract", "va", "extract", Sig::Extract, "NZCT", "NZCRT", "NZCRT"},
+  {"LoadIdentity", "ma", "load_identity", Sig::Fill, "NZCEO", "NZCER", "NZCRO"},
+  {"Transpose", "m",  "transpose", Sig::Transpose, "NZT", "", "NZR"},
+  {"Transpose", "ma", "transpose", Sig::Transpose, "NCZT", "NCZTR", "NCZTR"},
 };
 
 inline constexpr FamilyDoc kDocs[] = {
   {"GetLibVersion", "Returns the constant version record of the library."},
-  {"Add", "Element-wise sum of the two operands, one rounded addition per element."},
+  {"Add", "Element-wise sum of the two operands, one rounded addition per element."},  {"Copy", "Copies an array of matrices or vectors from one layout to another, element by element as raw bits."},
+  {"Extract", "Gathers an operand into one dense buffer, row by row; a t operand arrives transposed."},
+  {"LoadIdentity", "Fills every matrix of the array with ones on the main diagonal and zeros elsewhere."},
+  {"Transpose", "Writes the transpose of each matrix: dst has width rows and height columns."},
 };
 
 inline constexpr Override kOverrides[] = {
   {"tarnAdd_vca_64f_P", "NCZT"},  // takes any roiShift as it is
+  {"tarnCopy_va_32f_LP", "NZCREO"},  // shifts before strides, unlike the 64f twin
+  {"tarnCopy_va_32f_SP", "NZCREO"},
+  {"tarnExtract_v_32f_P", "NZR"},    // pointers before the size, unlike its siblings
+  {"tarnLoadIdentity_ma_32f_P", "NZRCO"},  // the shift before the count, unlike the 64f twin
 };
 // clang-format on
 
