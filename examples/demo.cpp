@@ -121,6 +121,22 @@ int main() {
       {"Add_vava 3-vectors, LayoutS", 12.0 * 3, [&] { sumLoop(v3); },
        [&] { return tarnAdd_vava_32f(v3.a.data(), 12, 4, v3.b.data(), 12, 4, v3.d.data(), 12, 4, 3, kN); },
        [&] { return sameBits(v3.d, v3.expect); }},
+      // Layout conversion: the nine element streams of the LayoutP batch gathered into packed
+      // 3x3 matrices, then scattered back into fresh streams.
+      {"Copy 3x3 LayoutP -> LayoutS", 36.0 * 2,
+       [&] {
+         for (int n = 0; n < kN; ++n)
+           for (int e = 0; e < 9; ++e) m3.expect[size_t(n) * 9 + e] = aS[size_t(e) * kN + n];
+       },
+       [&] { return tarnCopy_ma_32f_PS(aP.data(), 0, 4, m3.d.data(), 36, 12, 4, 3, 3, kN); },
+       [&] { return sameBits(m3.d, m3.a); }},
+      {"Copy 3x3 LayoutS -> LayoutP", 36.0 * 2,
+       [&] {
+         for (int e = 0; e < 9; ++e)
+           for (int n = 0; n < kN; ++n) dS[size_t(e) * kN + n] = m3.a[size_t(n) * 9 + e];
+       },
+       [&] { return tarnCopy_ma_32f_SP(m3.a.data(), 36, 12, 4, dP.data(), 0, 4, 3, 3, kN); },
+       [&] { return sameBits(dS, aS); }},
   };
 
   std::printf("%-30s %12s %14s %14s %14s %8s\n", "workload", "check", "plain loop", "tarn 1 thread",
