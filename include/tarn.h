@@ -137,6 +137,76 @@ tarnStatus tarnAdd_vv_32f_P(const float* const* src1, int32_t src1RoiShift, cons
 tarnStatus tarnAdd_vv_64f(const double* src1, int32_t src1ElemStride, const double* src2, int32_t src2ElemStride, double* dst, int32_t dstElemStride, int32_t len);
 tarnStatus tarnAdd_vv_64f_P(const double* const* src1, int32_t src1RoiShift, const double* const* src2, int32_t src2RoiShift, double* const* dst, int32_t dstRoiShift, int32_t len);
 
+/** Copies an array of matrices or vectors from one layout to another, element by element as raw bits. */
+tarnStatus tarnCopy_ma_32f_LL(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_32f_LP(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_32f_LS(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, float* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_32f_PL(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_32f_PP(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_32f_PS(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_32f_SL(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_32f_SP(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_32f_SS(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, float* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_64f_LL(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_64f_LP(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_64f_LS(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, double* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_64f_PL(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_64f_PP(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_64f_PS(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_64f_SL(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_64f_SP(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_ma_64f_SS(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, double* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnCopy_va_32f_LL(const float* const* src, int32_t srcRoiShift, int32_t srcElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_32f_LP(const float* const* src, int32_t srcRoiShift, int32_t srcElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_32f_LS(const float* const* src, int32_t srcRoiShift, int32_t srcElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_32f_PL(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_32f_PP(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_32f_PS(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_32f_SL(const float* src, int32_t srcObjStride, int32_t srcElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_32f_SP(const float* src, int32_t srcObjStride, int32_t srcElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_32f_SS(const float* src, int32_t srcObjStride, int32_t srcElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_64f_LL(const double* const* src, int32_t srcRoiShift, int32_t srcElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_64f_LP(const double* const* src, int32_t srcRoiShift, int32_t srcElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_64f_LS(const double* const* src, int32_t srcRoiShift, int32_t srcElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_64f_PL(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_64f_PP(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_64f_PS(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_64f_SL(const double* src, int32_t srcObjStride, int32_t srcElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_64f_SP(const double* src, int32_t srcObjStride, int32_t srcElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t len, int32_t count);
+tarnStatus tarnCopy_va_64f_SS(const double* src, int32_t srcObjStride, int32_t srcElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
+
+/** Gathers an operand into one dense buffer, row by row; a t operand arrives transposed. */
+tarnStatus tarnExtract_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, float* dst, int32_t width, int32_t height);
+tarnStatus tarnExtract_m_32f_P(const float* const* src, int32_t srcRoiShift, float* dst, int32_t width, int32_t height);
+tarnStatus tarnExtract_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, double* dst, int32_t width, int32_t height);
+tarnStatus tarnExtract_m_64f_P(const double* const* src, int32_t srcRoiShift, double* dst, int32_t width, int32_t height);
+tarnStatus tarnExtract_ma_32f(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, float* dst, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnExtract_ma_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, float* dst, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnExtract_ma_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* dst, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnExtract_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, double* dst, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnExtract_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, double* dst, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnExtract_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* dst, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnExtract_t_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, float* dst, int32_t width, int32_t height);
+tarnStatus tarnExtract_t_32f_P(const float* const* src, int32_t srcRoiShift, float* dst, int32_t width, int32_t height);
+tarnStatus tarnExtract_t_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, double* dst, int32_t width, int32_t height);
+tarnStatus tarnExtract_t_64f_P(const double* const* src, int32_t srcRoiShift, double* dst, int32_t width, int32_t height);
+tarnStatus tarnExtract_ta_32f(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, float* dst, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnExtract_ta_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, float* dst, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnExtract_ta_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* dst, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnExtract_ta_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, double* dst, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnExtract_ta_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, double* dst, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnExtract_ta_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* dst, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnExtract_v_32f(const float* src, int32_t srcElemStride, float* dst, int32_t len);
+tarnStatus tarnExtract_v_32f_P(const float* const* src, int32_t srcRoiShift, float* dst, int32_t len);
+tarnStatus tarnExtract_v_64f(const double* src, int32_t srcElemStride, double* dst, int32_t len);
+tarnStatus tarnExtract_v_64f_P(const double* const* src, int32_t srcRoiShift, double* dst, int32_t len);
+tarnStatus tarnExtract_va_32f(const float* src, int32_t srcObjStride, int32_t srcElemStride, float* dst, int32_t len, int32_t count);
+tarnStatus tarnExtract_va_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcElemStride, float* dst, int32_t len, int32_t count);
+tarnStatus tarnExtract_va_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* dst, int32_t len, int32_t count);
+tarnStatus tarnExtract_va_64f(const double* src, int32_t srcObjStride, int32_t srcElemStride, double* dst, int32_t len, int32_t count);
+tarnStatus tarnExtract_va_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcElemStride, double* dst, int32_t len, int32_t count);
+tarnStatus tarnExtract_va_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* dst, int32_t len, int32_t count);
+
 /** Returns the constant version record of the library. */
 const tarnLibraryVersion* tarnGetLibVersion(void);
 
@@ -157,6 +227,14 @@ tarnStatus tarnLComb_vv_32f(const float* src1, int32_t src1ElemStride, float val
 tarnStatus tarnLComb_vv_32f_P(const float* const* src1, int32_t src1RoiShift, float val1, const float* const* src2, int32_t src2RoiShift, float val2, float* const* dst, int32_t dstRoiShift, int32_t len);
 tarnStatus tarnLComb_vv_64f(const double* src1, int32_t src1ElemStride, double val1, const double* src2, int32_t src2ElemStride, double val2, double* dst, int32_t dstElemStride, int32_t len);
 tarnStatus tarnLComb_vv_64f_P(const double* const* src1, int32_t src1RoiShift, double val1, const double* const* src2, int32_t src2RoiShift, double val2, double* const* dst, int32_t dstRoiShift, int32_t len);
+
+/** Fills every matrix of the array with ones on the main diagonal and zeros elsewhere. */
+tarnStatus tarnLoadIdentity_ma_32f(float* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnLoadIdentity_ma_32f_L(float* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnLoadIdentity_ma_32f_P(float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnLoadIdentity_ma_64f(double* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnLoadIdentity_ma_64f_L(double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnLoadIdentity_ma_64f_P(double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
 
 /** dst = src1*val + src2 per element: the product and the sum each rounded, never fused. */
 tarnStatus tarnSaxpy_vav_32f(const float* src1, int32_t src1ObjStride, int32_t src1ElemStride, float val, const float* src2, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
@@ -337,6 +415,18 @@ tarnStatus tarnSub_vva_32f_P(const float* const* src1, int32_t src1RoiShift, con
 tarnStatus tarnSub_vva_64f(const double* src1, int32_t src1ElemStride, const double* src2, int32_t src2ObjStride, int32_t src2ElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
 tarnStatus tarnSub_vva_64f_L(const double* src1, int32_t src1ElemStride, const double* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t len, int32_t count);
 tarnStatus tarnSub_vva_64f_P(const double* const* src1, int32_t src1RoiShift, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t len, int32_t count);
+
+/** Writes the transpose of each matrix: dst has width rows and height columns. */
+tarnStatus tarnTranspose_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, float* dst, int32_t dstRowStride, int32_t dstElemStride);
+tarnStatus tarnTranspose_m_32f_P(const float* const* src, int32_t srcRoiShift, int32_t width, int32_t height, float* const* dst, int32_t dstRoiShift);
+tarnStatus tarnTranspose_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, double* dst, int32_t dstRowStride, int32_t dstElemStride);
+tarnStatus tarnTranspose_m_64f_P(const double* const* src, int32_t srcRoiShift, int32_t width, int32_t height, double* const* dst, int32_t dstRoiShift);
+tarnStatus tarnTranspose_ma_32f(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, float* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t count);
+tarnStatus tarnTranspose_ma_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, float* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t count);
+tarnStatus tarnTranspose_ma_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, int32_t width, int32_t height, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t count);
+tarnStatus tarnTranspose_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, double* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t count);
+tarnStatus tarnTranspose_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t count);
+tarnStatus tarnTranspose_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, int32_t width, int32_t height, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t count);
 
 #ifdef __cplusplus
 }

@@ -223,7 +223,9 @@ void worker(const Op& op, const D& d, const A& a, const B& b, int32_t count, int
   constexpr bool kRows = Contig && L != Layout::P && S.a.kind != 't' && S.b.kind != 't';
   auto fixed = [&]<int H, int W>() {
     if constexpr (L == Layout::P) {
-      plainBody<H, W>(op, cached<H * W>(d), cached<H * W>(a), cached<H * W>(b), count, H, W);
+      const auto fa = frozen<H * W>(cached<H * W>(a));
+      const auto fb = frozen<H * W>(cached<H * W>(b));
+      plainBody<H, W>(op, cached<H * W>(d), fa, fb, count, H, W);
     } else if constexpr (kRows) {
       if constexpr (L == Layout::L) rowBody<H, W, Align::PerObject, T>(op, d, a, b, count);
       else if (alignedOperand(d) && alignedOperand(a) && alignedOperand(b)) rowBody<H, W, Align::Yes, T>(op, d, a, b, count);

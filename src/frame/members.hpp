@@ -167,6 +167,20 @@ inline constexpr Row kRows[] = {
    {20001, 20001, 40001, 20001, 20001}, thr(20001, 20001, 20001)},
   {"LComb", "vava", "lcomb", Sig::Scaled2, "NCZT", "NCZTR", "NCZTR", Est::ThreeLenCount,
    {20001, 20001, 40001, 20001, 20001}, thr(20001, 20001, 20001)},
+
+  // Data movement: layout conversion, gathering, identity fill, transposition. Always serial.
+  // Copy checks sizes before count, and object strides only when count > 1, last.
+  {"Copy", "ma", "copy", Sig::Copy, "NZCERO", "NZCERO", "NZCERO"},
+  {"Copy", "va", "copy", Sig::Copy, "NZCERO", "NZCERO", "NZCERO"},
+  {"Extract", "m",  "extract", Sig::Extract, "NZT", "", "ZNR"},
+  {"Extract", "t",  "extract", Sig::Extract, "NZT", "", "ZNR"},
+  {"Extract", "v",  "extract", Sig::Extract, "NZT", "", "ZNR"},
+  {"Extract", "ma", "extract", Sig::Extract, "NZCT", "NZCRT", "NZCRT"},
+  {"Extract", "ta", "extract", Sig::Extract, "NZCT", "NZCRT", "NZCRT"},
+  {"Extract", "va", "extract", Sig::Extract, "NZCT", "NZCRT", "NZCRT"},
+  {"LoadIdentity", "ma", "load_identity", Sig::Fill, "NZCEO", "NZCER", "NZCRO"},
+  {"Transpose", "m",  "transpose", Sig::Transpose, "NZT", "", "NZR"},
+  {"Transpose", "ma", "transpose", Sig::Transpose, "NCZT", "NCZTR", "NCZTR"},
 };
 
 inline constexpr FamilyDoc kDocs[] = {
@@ -175,12 +189,20 @@ inline constexpr FamilyDoc kDocs[] = {
   {"Sub", "Element-wise difference, the operand named first minus the other, one rounded subtraction per element."},
   {"Saxpy", "dst = src1*val + src2 per element: the product and the sum each rounded, never fused."},
   {"LComb", "dst = src1*val1 + src2*val2 per element: both products and the sum each rounded, never fused."},
+  {"Copy", "Copies an array of matrices or vectors from one layout to another, element by element as raw bits."},
+  {"Extract", "Gathers an operand into one dense buffer, row by row; a t operand arrives transposed."},
+  {"LoadIdentity", "Fills every matrix of the array with ones on the main diagonal and zeros elsewhere."},
+  {"Transpose", "Writes the transpose of each matrix: dst has width rows and height columns."},
 };
 
 inline constexpr Override kOverrides[] = {
   {"tarnAdd_vca_64f_P", "NCZT"},  // takes any roiShift as it is
   {"tarnSub_cav_32f_P", "NCZT"},  // takes any roiShift as it is
   {"tarnSub_vva_64f_P", {}, true},  // no wrapper: serial however large E is
+  {"tarnCopy_va_32f_LP", "NZCREO"},  // shifts before strides, unlike the 64f twin
+  {"tarnCopy_va_32f_SP", "NZCREO"},
+  {"tarnExtract_v_32f_P", "NZR"},    // pointers before the size, unlike its siblings
+  {"tarnLoadIdentity_ma_32f_P", "NZRCO"},  // the shift before the count, unlike the 64f twin
 };
 // clang-format on
 
