@@ -88,6 +88,8 @@ int main() {
   };
   // One fixed offset matrix added to every object.
   const float offset[9] = {0.5f, -1.25f, 2.0f, 3.5f, 0.0f, -7.0f, 1e-3f, 42.0f, -0.75f};
+  // Scalars with many significant bits, so every product is rounded.
+  const float kScale1 = 0.3f, kScale2 = -1.7f;
 
   const std::vector<Row> rows = {
       {"Add_mama 3x3, LayoutS", 36.0 * 3, [&] { sumLoop(m3); },
@@ -120,6 +122,26 @@ int main() {
        [&] { return sameBits(m4.d, m4.expect); }},
       {"Add_vava 3-vectors, LayoutS", 12.0 * 3, [&] { sumLoop(v3); },
        [&] { return tarnAdd_vava_32f(v3.a.data(), 12, 4, v3.b.data(), 12, 4, v3.d.data(), 12, 4, 3, kN); },
+       [&] { return sameBits(v3.d, v3.expect); }},
+      // Scaled sums: every product and the sum rounded on its own, as the loop below does it.
+      {"Saxpy_vava 3-vectors, LayoutS", 12.0 * 3,
+       [&] {
+         for (size_t i = 0; i < v3.a.size(); ++i) {
+           const float p = v3.a[i] * kScale1;
+           v3.expect[i] = p + v3.b[i];
+         }
+       },
+       [&] { return tarnSaxpy_vava_32f(v3.a.data(), 12, 4, kScale1, v3.b.data(), 12, 4, v3.d.data(), 12, 4, 3, kN); },
+       [&] { return sameBits(v3.d, v3.expect); }},
+      {"LComb_vav 3-vec + one, LayoutS", 12.0 * 2,
+       [&] {
+         for (int n = 0; n < kN; ++n)
+           for (int i = 0; i < 3; ++i) {
+             const float p = v3.a[size_t(n) * 3 + i] * kScale1, q = offset[i] * kScale2;
+             v3.expect[size_t(n) * 3 + i] = p + q;
+           }
+       },
+       [&] { return tarnLComb_vav_32f(v3.a.data(), 12, 4, kScale1, offset, 4, kScale2, v3.d.data(), 12, 4, 3, kN); },
        [&] { return sameBits(v3.d, v3.expect); }},
       // Layout conversion: the nine element streams of the LayoutP batch gathered into packed
       // 3x3 matrices, then scattered back into fresh streams.

@@ -14,6 +14,7 @@
 #pragma once
 
 #include <cstdint>
+#include <type_traits>
 
 #include "call.hpp"
 #include "dispatch.hpp"
@@ -22,13 +23,41 @@
 
 namespace tarn::elementwise {
 
+// Besides the arithmetic an operation says which bodies its family has where families differ:
+//   kArrayRowLoop  two arrays of long contiguous rows (mama, vava at other sizes) take the
+//                  8-element row loop; without it they take the forward loop by two.
+//   kNoPairLen4    the contiguous LayoutS 32f worker of two vector arrays has no len-4 body
+//                  (len 4 falls to the forward loop by two).
+// Neither changes a result: every element is computed by the same operations on every path.
 struct AddOp {
+  static constexpr bool kArrayRowLoop = true, kNoPairLen4 = false;
   template <class T> T operator()(T a, T b) const { return a + b; }
   template <class V> V vec(V a, V b) const { return simd::add(a, b); }
 };
 struct SubOp {
+  static constexpr bool kArrayRowLoop = false, kNoPairLen4 = false;
   template <class T> T operator()(T a, T b) const { return a - b; }
   template <class V> V vec(V a, V b) const { return simd::sub(a, b); }
+};
+
+// a*s + b and a*s1 + b*s2 with the scalars of the call captured: every product and the sum are
+// separate operations, each rounded in the element type (the build forbids contraction, and the
+// register forms use a multiply and an add, never a fused instruction).
+template <class T>
+struct SaxpyOp {
+  static constexpr bool kArrayRowLoop = false, kNoPairLen4 = true;
+  T s;
+  T operator()(T a, T b) const { return a * s + b; }
+  template <class V> V vec(V a, V b) const { return simd::add(simd::mul(a, simd::broadcast(s)), b); }
+};
+template <class T>
+struct LCombOp {
+  static constexpr bool kArrayRowLoop = false, kNoPairLen4 = true;
+  T s1, s2;
+  T operator()(T a, T b) const { return a * s1 + b * s2; }
+  template <class V> V vec(V a, V b) const {
+    return simd::add(simd::mul(a, simd::broadcast(s1)), simd::mul(b, simd::broadcast(s2)));
+  }
 };
 
 // ---- plainBody -------------------------------------------------------------------------
@@ -215,14 +244,18 @@ void worker(const Op& op, const D& d, const A& a, const B& b, int32_t count, int
       }
     }
   } else {
+    constexpr bool kLen4 = !(Op::kNoPairLen4 && std::is_same_v<T, float> && L == Layout::S && Contig &&
+                             S.a.array && S.b.array);
     switch (w) {
       case 3: return fixed.template operator()<1, 3>();
-      case 4: return fixed.template operator()<1, 4>();
+      case 4:
+        if constexpr (kLen4) return fixed.template operator()<1, 4>();
+        break;
       case 5: return fixed.template operator()<1, 5>();
       case 6: return fixed.template operator()<1, 6>();
     }
   }
-  if constexpr (kRows && S.a.array && S.b.array && S.a.kind != 'c' && S.b.kind != 'c') {
+  if constexpr (Op::kArrayRowLoop && kRows && S.a.array && S.b.array && S.a.kind != 'c' && S.b.kind != 'c') {
     // Two arrays of long contiguous rows (mama, vava): the 8-element loop, row by row.
     for (int32_t n = 0; n < count; ++n) {
       const auto dv = d.obj(n);

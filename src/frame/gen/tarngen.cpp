@@ -181,7 +181,7 @@ void buildParams(Member& m) {
       if (two) b.scalar("val2", 1);
       b.block('v', anyArray, m.lay, "dst", true);
       b.sizes(false);
-      b.count();
+      if (anyArray) b.count();  // the single-object vv has none
       return;
     }
     case Sig::Copy:

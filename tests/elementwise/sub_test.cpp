@@ -1,0 +1,191 @@
+// Sub: every member against the reference on shapes that reach every body, in every placement
+// and on several threads past the thresholds; the validation orders that depart from the
+// standard ones; the constant-first forms, which share their twins' argument lists.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "elementwise.hpp"
+
+namespace tt {
+namespace {
+
+const EwShape kMatrixShapes[] = {{3, 3}, {4, 4}, {5, 5}, {6, 6}, {1, 1}, {2, 2}, {3, 4}, {4, 3}, {2, 5}, {7, 7}, {9, 4}};
+const EwShape kVectorShapes[] = {{1, 3}, {1, 4}, {1, 5}, {1, 6}, {1, 1}, {1, 2}, {1, 7}, {1, 8}, {1, 9}, {1, 17}, {1, 35}};
+
+bool isMatrixPattern(const std::string& p) { return p.find_first_of("mt") != std::string::npos; }
+
+TEST(Sub, EveryMemberShapeAndPlacement) {
+  const auto members = membersOf("Sub");
+  ASSERT_EQ(members.size(), 154u);
+  for (const MemberFn* m : members) {
+    const Name nm = parseName(m->name);
+    const auto& shapes = isMatrixPattern(nm.pattern) ? kMatrixShapes : kVectorShapes;
+    unsigned seed = 11;
+    for (const EwShape& s : shapes)
+      for (const Style& st : styles())
+        for (int count : {1, 3})
+          EXPECT_EQ(runElementwise(*m, s, count, st, 1, seed++, refSub).failure, "");
+  }
+}
+
+// Past every threshold (cva counts only 2*count), slices of 1 to 4 threads give the serial bits.
+TEST(Sub, ThreadCountsGiveIdenticalBits) {
+  for (const MemberFn* m : membersOf("Sub")) {
+    const Name nm = parseName(m->name);
+    if (nm.pattern.find('a') == std::string::npos) continue;
+    const bool matrix = isMatrixPattern(nm.pattern);
+    struct Case {
+      EwShape shape;
+      const char* placement;
+    };
+    const std::vector<Case> cases = matrix ? std::vector<Case>{{{3, 3}, "packed"}, {{7, 5}, "strided"}}
+                                           : std::vector<Case>{{{1, 3}, "packed"}, {{1, 9}, "strided"}};
+    const int count = matrix ? 2503 : nm.pattern == "cva" ? 20001 : 7001;
+    for (const Case& k : cases) {
+      const EwRun one = runElementwise(*m, k.shape, count, style(k.placement), 1, 5, refSub);
+      EXPECT_EQ(one.failure, "");
+      for (int threads : {2, 3, 4}) {
+        const EwRun many = runElementwise(*m, k.shape, count, style(k.placement), threads, 5, refSub);
+        EXPECT_EQ(many.failure, "");
+        EXPECT_TRUE(many.result == one.result) << m->name << " threads " << threads;
+      }
+    }
+  }
+}
+
+// Hand-checked values: the minuend is the operand named first, whatever the argument order.
+TEST(Sub, MinuendIsNamedFirst) {
+  const float src[3] = {0.25f, 2.0f, -1.5f};
+  float vc[3], cv[3];
+  ASSERT_EQ(tarnSub_vc_32f(src, 4, 1.0f, vc, 4, 3), tarnStatusOk);
+  ASSERT_EQ(tarnSub_cv_32f(src, 4, 1.0f, cv, 4, 3), tarnStatusOk);
+  const float wantCv[3] = {0.75f, -1.0f, 2.5f};
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(cv[i], wantCv[i]) << i;
+    EXPECT_EQ(vc[i], -wantCv[i]) << i;
+  }
+
+  // mma: the single matrix minus each object of the array.
+  const double one[4] = {10, 20, 30, 40};
+  const double arr[8] = {1, 2, 3, 4, 5, 6, 7, 8};
+  double d[8];
+  ASSERT_EQ(tarnSub_mma_64f(one, 16, 8, arr, 32, 16, 8, d, 32, 16, 8, 2, 2, 2), tarnStatusOk);
+  const double want[8] = {9, 18, 27, 36, 5, 14, 23, 32};
+  for (int i = 0; i < 8; ++i) EXPECT_EQ(d[i], want[i]) << i;
+
+  // cav: the constant of each object minus the single vector; cva: the one constant minus each.
+  const double v2[2] = {1, 2}, vals[2] = {10, 100};
+  double e[4];
+  ASSERT_EQ(tarnSub_cav_64f(v2, 8, vals, 8, e, 16, 8, 2, 2), tarnStatusOk);
+  EXPECT_EQ(e[0], 9);
+  EXPECT_EQ(e[1], 8);
+  EXPECT_EQ(e[2], 99);
+  EXPECT_EQ(e[3], 98);
+  const double va[4] = {1, 2, 3, 4};
+  ASSERT_EQ(tarnSub_cva_64f(va, 16, 8, 5.0, e, 16, 8, 2, 2), tarnStatusOk);
+  EXPECT_EQ(e[0], 4);
+  EXPECT_EQ(e[3], 1);
+}
+
+// cv and vc on the same arguments: results of opposite sign, bit for bit, in every layout and
+// at every length, infinities included.
+TEST(Sub, ConstantFirstAndLastAreOpposite) {
+  for (int len : {1, 3, 4, 7, 9, 33}) {
+    std::vector<float> src(len);
+    for (int i = 0; i < len; ++i) src[i] = 0.1f * float(i * i) - 1.7f;
+    src[0] = std::numeric_limits<float>::infinity();
+    std::vector<float> a(len), b(len);
+    std::vector<const float*> st(len);
+    std::vector<float*> ta(len), tb(len);
+    for (int i = 0; i < len; ++i) {
+      st[i] = &src[i];
+      ta[i] = &a[i];
+      tb[i] = &b[i];
+    }
+    const float val = 0.3f;
+    ASSERT_EQ(tarnSub_vc_32f(src.data(), 4, val, a.data(), 4, len), tarnStatusOk);
+    ASSERT_EQ(tarnSub_cv_32f(src.data(), 4, val, b.data(), 4, len), tarnStatusOk);
+    for (int i = 0; i < len; ++i) EXPECT_EQ(a[i], -b[i]) << "S len " << len << " i " << i;
+    ASSERT_EQ(tarnSub_vc_32f_P(st.data(), 0, val, ta.data(), 0, len), tarnStatusOk);
+    ASSERT_EQ(tarnSub_cv_32f_P(st.data(), 0, val, tb.data(), 0, len), tarnStatusOk);
+    for (int i = 0; i < len; ++i) EXPECT_EQ(a[i], -b[i]) << "P len " << len << " i " << i;
+  }
+}
+
+// dst equal to src1 with the same strides: each element is read before it is written, on every
+// path (fixed sizes, the long-row loop, the two-column loop).
+TEST(Sub, InPlaceOnTheMinuend) {
+  for (int len : {3, 4, 6, 8, 17}) {
+    std::vector<double> x(len), y(len), want(len);
+    for (int i = 0; i < len; ++i) {
+      x[i] = 1.0 / (i + 3);
+      y[i] = 0.7 * i;
+      want[i] = x[i] - y[i];
+    }
+    ASSERT_EQ(tarnSub_vv_64f(x.data(), 8, y.data(), 8, x.data(), 8, len), tarnStatusOk);
+    for (int i = 0; i < len; ++i) EXPECT_EQ(x[i], want[i]) << len << " " << i;
+  }
+  for (int wh : {3, 4, 7}) {
+    const int n = 3, e = wh * wh;
+    std::vector<float> x(n * e), one(e), want(n * e);
+    for (int i = 0; i < n * e; ++i) x[i] = 1.0f / float(i + 3);
+    for (int i = 0; i < e; ++i) one[i] = 0.3f * float(i);
+    for (int i = 0; i < n * e; ++i) want[i] = x[i] - one[i % e];
+    ASSERT_EQ(tarnSub_mam_32f(x.data(), 4 * e, 4 * wh, 4, one.data(), 4 * wh, 4, x.data(), 4 * e, 4 * wh, 4, wh, wh, n),
+              tarnStatusOk);
+    for (int i = 0; i < n * e; ++i) EXPECT_EQ(x[i], want[i]) << wh << " " << i;
+  }
+}
+
+// The members whose check order departs from the standard one, each beside a member that keeps
+// it: a call with two faults reports the first fault of its own order.
+TEST(Sub, ValidationOrderDepartures) {
+  float m[16] = {}, d[16] = {};
+  float* mt[1] = {m};
+  float* dt[1] = {d};
+  struct Case {
+    const char* what;
+    tarnStatus got, want;
+  };
+  const Case cases[] = {
+      // mam, mma (LayoutS): count, then strides, then sizes.
+      {"mma count 0, stride 2", tarnSub_mma_32f(m, 16, 4, m, 64, 2, 4, d, 64, 16, 4, 4, 4, 0), tarnStatusBadCount},
+      {"mma count 1, stride 2, width 0", tarnSub_mma_32f(m, 16, 4, m, 64, 2, 4, d, 64, 16, 4, 0, 4, 1), tarnStatusBadStride},
+      {"mam count 1, stride 2, width 0", tarnSub_mam_32f(m, 64, 2, 4, m, 16, 4, d, 64, 16, 4, 0, 4, 1), tarnStatusBadStride},
+      {"mama count 1, stride 2, width 0", tarnSub_mama_32f(m, 64, 2, 4, m, 64, 16, 4, d, 64, 16, 4, 0, 4, 1), tarnStatusBadSize},
+      {"mta count 1, stride 2, width 0", tarnSub_mta_32f(m, 16, 4, m, 64, 2, 4, d, 64, 16, 4, 0, 4, 1), tarnStatusBadSize},
+      {"mma_L count 1, stride 2, width 0", tarnSub_mma_32f_L(m, 16, 4, mt, 0, 2, 4, dt, 0, 16, 4, 0, 4, 1), tarnStatusBadSize},
+      // vav: sizes, strides, shifts, count last.
+      {"vav count 0, len 0", tarnSub_vav_32f(m, 16, 4, m, 4, d, 16, 4, 0, 0), tarnStatusBadSize},
+      {"vva count 0, len 0", tarnSub_vva_32f(m, 4, m, 16, 4, d, 16, 4, 0, 0), tarnStatusBadCount},
+      {"vav count 0, stride 2", tarnSub_vav_32f(m, 16, 2, m, 4, d, 16, 4, 4, 0), tarnStatusBadStride},
+      {"vav_L count 0, roi 2", tarnSub_vav_32f_L(mt, 2, 4, m, 4, dt, 0, 4, 4, 0), tarnStatusBadRoiShift},
+      {"vav_P count 0, roi 2", tarnSub_vav_32f_P(mt, 2, 16, mt, 0, dt, 0, 16, 1, 0), tarnStatusBadCount},
+      {"vva_L count 0, roi 2", tarnSub_vva_32f_L(m, 4, mt, 2, 4, dt, 0, 4, 4, 0), tarnStatusBadCount},
+      // cav 64f P keeps the shift check; its 32f twin has none (see below).
+      {"cav_64f_P roi -8", tarnSub_cav_64f_P(reinterpret_cast<double* const*>(mt), -8, reinterpret_cast<double*>(m), 8,
+                                             reinterpret_cast<double* const*>(dt), 0, 8, 1, 1),
+       tarnStatusBadRoiShift},
+      {"cav_32f_P roi 2", tarnSub_cav_32f_P(mt, 2, m, 4, dt, 0, 4, 1, 1), tarnStatusOk},
+      {"cav_32f_L val roi 2", tarnSub_cav_32f_L(m, 4, mt, 2, dt, 0, 4, 1, 1), tarnStatusBadRoiShift},
+      {"vca_32f_P roi 2", tarnSub_vca_32f_P(mt, 2, m, 4, dt, 0, 4, 1, 1), tarnStatusBadRoiShift},
+  };
+  for (const Case& c : cases) EXPECT_EQ(c.got, c.want) << c.what;
+}
+
+// tarnSub_cav_32f_P takes a negative roiShift as it is and reads at the shifted addresses.
+TEST(Sub, CavSinglePrecisionTableTakesAnyShift) {
+  float src[4] = {0, 1, 2, 3};  // the table points one element behind each element
+  const float* tbl[3] = {&src[1], &src[2], &src[3]};
+  float vals[2] = {10, 20};
+  float out[6] = {};
+  float* dtbl[3] = {&out[0], &out[1], &out[2]};
+  ASSERT_EQ(tarnSub_cav_32f_P(tbl, -4, vals, 4, dtbl, 0, 12, 3, 2), tarnStatusOk);
+  const float want[6] = {10, 9, 8, 20, 19, 18};
+  for (int i = 0; i < 6; ++i) EXPECT_EQ(out[i], want[i]) << i;
+}
+
+}  // namespace
+}  // namespace tt
