@@ -1,6 +1,5 @@
-// Sub: every member against the reference on shapes that reach every body, in every placement
-// and on several threads past the thresholds; the validation orders that depart from the
-// standard ones; the constant-first forms, which share their twins' argument lists.
+// Sub beyond the shared sweeps: which operand is the minuend, the constant-first forms that share
+// their twins' argument lists, and the validation orders that depart from the standard ones.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -10,50 +9,6 @@
 
 namespace tt {
 namespace {
-
-const EwShape kMatrixShapes[] = {{3, 3}, {4, 4}, {5, 5}, {6, 6}, {1, 1}, {2, 2}, {3, 4}, {4, 3}, {2, 5}, {7, 7}, {9, 4}};
-const EwShape kVectorShapes[] = {{1, 3}, {1, 4}, {1, 5}, {1, 6}, {1, 1}, {1, 2}, {1, 7}, {1, 8}, {1, 9}, {1, 17}, {1, 35}};
-
-bool isMatrixPattern(const std::string& p) { return p.find_first_of("mt") != std::string::npos; }
-
-TEST(Sub, EveryMemberShapeAndPlacement) {
-  const auto members = membersOf("Sub");
-  ASSERT_EQ(members.size(), 154u);
-  for (const MemberFn* m : members) {
-    const Name nm = parseName(m->name);
-    const auto& shapes = isMatrixPattern(nm.pattern) ? kMatrixShapes : kVectorShapes;
-    unsigned seed = 11;
-    for (const EwShape& s : shapes)
-      for (const Style& st : styles())
-        for (int count : {1, 3})
-          EXPECT_EQ(runElementwise(*m, s, count, st, 1, seed++, refSub).failure, "");
-  }
-}
-
-// Past every threshold (cva counts only 2*count), slices of 1 to 4 threads give the serial bits.
-TEST(Sub, ThreadCountsGiveIdenticalBits) {
-  for (const MemberFn* m : membersOf("Sub")) {
-    const Name nm = parseName(m->name);
-    if (nm.pattern.find('a') == std::string::npos) continue;
-    const bool matrix = isMatrixPattern(nm.pattern);
-    struct Case {
-      EwShape shape;
-      const char* placement;
-    };
-    const std::vector<Case> cases = matrix ? std::vector<Case>{{{3, 3}, "packed"}, {{7, 5}, "strided"}}
-                                           : std::vector<Case>{{{1, 3}, "packed"}, {{1, 9}, "strided"}};
-    const int count = matrix ? 2503 : nm.pattern == "cva" ? 20001 : 7001;
-    for (const Case& k : cases) {
-      const EwRun one = runElementwise(*m, k.shape, count, style(k.placement), 1, 5, refSub);
-      EXPECT_EQ(one.failure, "");
-      for (int threads : {2, 3, 4}) {
-        const EwRun many = runElementwise(*m, k.shape, count, style(k.placement), threads, 5, refSub);
-        EXPECT_EQ(many.failure, "");
-        EXPECT_TRUE(many.result == one.result) << m->name << " threads " << threads;
-      }
-    }
-  }
-}
 
 // Hand-checked values: the minuend is the operand named first, whatever the argument order.
 TEST(Sub, MinuendIsNamedFirst) {
@@ -111,31 +66,6 @@ TEST(Sub, ConstantFirstAndLastAreOpposite) {
     ASSERT_EQ(tarnSub_vc_32f_P(st.data(), 0, val, ta.data(), 0, len), tarnStatusOk);
     ASSERT_EQ(tarnSub_cv_32f_P(st.data(), 0, val, tb.data(), 0, len), tarnStatusOk);
     for (int i = 0; i < len; ++i) EXPECT_EQ(a[i], -b[i]) << "P len " << len << " i " << i;
-  }
-}
-
-// dst equal to src1 with the same strides: each element is read before it is written, on every
-// path (fixed sizes, the long-row loop, the two-column loop).
-TEST(Sub, InPlaceOnTheMinuend) {
-  for (int len : {3, 4, 6, 8, 17}) {
-    std::vector<double> x(len), y(len), want(len);
-    for (int i = 0; i < len; ++i) {
-      x[i] = 1.0 / (i + 3);
-      y[i] = 0.7 * i;
-      want[i] = x[i] - y[i];
-    }
-    ASSERT_EQ(tarnSub_vv_64f(x.data(), 8, y.data(), 8, x.data(), 8, len), tarnStatusOk);
-    for (int i = 0; i < len; ++i) EXPECT_EQ(x[i], want[i]) << len << " " << i;
-  }
-  for (int wh : {3, 4, 7}) {
-    const int n = 3, e = wh * wh;
-    std::vector<float> x(n * e), one(e), want(n * e);
-    for (int i = 0; i < n * e; ++i) x[i] = 1.0f / float(i + 3);
-    for (int i = 0; i < e; ++i) one[i] = 0.3f * float(i);
-    for (int i = 0; i < n * e; ++i) want[i] = x[i] - one[i % e];
-    ASSERT_EQ(tarnSub_mam_32f(x.data(), 4 * e, 4 * wh, 4, one.data(), 4 * wh, 4, x.data(), 4 * e, 4 * wh, 4, wh, wh, n),
-              tarnStatusOk);
-    for (int i = 0; i < n * e; ++i) EXPECT_EQ(x[i], want[i]) << wh << " " << i;
   }
 }
 
