@@ -111,6 +111,17 @@ TEST(Validation, PinnedOrders) {
       {"tarnAdd_mam_32f", [](Args& a) { a.count = 1; a.op[0].obj = 0; }, tarnStatusBadStride},
       {"tarnAdd_mm_32f_P", [](Args& a) { a.op[2].roi = -4; a.width = 0; }, tarnStatusBadSize},
       {"tarnAdd_vc_64f", [](Args& a) { a.op[0].ptr = nullptr; a.len = -1; }, tarnStatusNullPointer},
+      // Data movement: sizes before the count in Copy, the count first in Transpose arrays.
+      {"tarnCopy_ma_32f_SS", [](Args& a) { a.count = 0; a.width = 0; }, tarnStatusBadSize},
+      {"tarnTranspose_ma_32f", [](Args& a) { a.count = 0; a.width = 0; }, tarnStatusBadCount},
+      {"tarnCopy_ma_32f_SS", [](Args& a) { a.count = 1; a.op[0].obj = 2; }, tarnStatusOk},
+      {"tarnExtract_ma_32f", [](Args& a) { a.count = 1; a.op[0].obj = 2; }, tarnStatusBadStride},
+      {"tarnCopy_va_32f_SP", [](Args& a) { a.op[0].elem = 2; a.op[1].roi = 2; }, tarnStatusBadRoiShift},
+      {"tarnCopy_va_64f_SP", [](Args& a) { a.op[0].elem = 4; a.op[1].roi = 4; }, tarnStatusBadStride},
+      {"tarnExtract_v_32f_P", [](Args& a) { a.op[1].ptr = nullptr; a.len = 0; }, tarnStatusNullPointer},
+      {"tarnExtract_v_64f_P", [](Args& a) { a.op[1].ptr = nullptr; a.len = 0; }, tarnStatusBadSize},
+      {"tarnLoadIdentity_ma_32f_P", [](Args& a) { a.op[0].roi = 2; a.count = 0; }, tarnStatusBadRoiShift},
+      {"tarnLoadIdentity_ma_64f_P", [](Args& a) { a.op[0].roi = 4; a.count = 0; }, tarnStatusBadCount},
   };
   for (const Case& c : cases) {
     const MemberFn& m = member(c.name);
