@@ -44,31 +44,6 @@ TEST(Sub, MinuendIsNamedFirst) {
   EXPECT_EQ(e[3], 1);
 }
 
-// cv and vc on the same arguments: results of opposite sign, bit for bit, in every layout and
-// at every length, infinities included.
-TEST(Sub, ConstantFirstAndLastAreOpposite) {
-  for (int len : {1, 3, 4, 7, 9, 33}) {
-    std::vector<float> src(len);
-    for (int i = 0; i < len; ++i) src[i] = 0.1f * float(i * i) - 1.7f;
-    src[0] = std::numeric_limits<float>::infinity();
-    std::vector<float> a(len), b(len);
-    std::vector<const float*> st(len);
-    std::vector<float*> ta(len), tb(len);
-    for (int i = 0; i < len; ++i) {
-      st[i] = &src[i];
-      ta[i] = &a[i];
-      tb[i] = &b[i];
-    }
-    const float val = 0.3f;
-    ASSERT_EQ(tarnSub_vc_32f(src.data(), 4, val, a.data(), 4, len), tarnStatusOk);
-    ASSERT_EQ(tarnSub_cv_32f(src.data(), 4, val, b.data(), 4, len), tarnStatusOk);
-    for (int i = 0; i < len; ++i) EXPECT_EQ(a[i], -b[i]) << "S len " << len << " i " << i;
-    ASSERT_EQ(tarnSub_vc_32f_P(st.data(), 0, val, ta.data(), 0, len), tarnStatusOk);
-    ASSERT_EQ(tarnSub_cv_32f_P(st.data(), 0, val, tb.data(), 0, len), tarnStatusOk);
-    for (int i = 0; i < len; ++i) EXPECT_EQ(a[i], -b[i]) << "P len " << len << " i " << i;
-  }
-}
-
 // The members whose check order departs from the standard one, each beside a member that keeps
 // it: a call with two faults reports the first fault of its own order.
 TEST(Sub, ValidationOrderDepartures) {
