@@ -15,6 +15,7 @@
 
 #include <cstdint>
 #include <numeric>
+#include <type_traits>
 
 #include "call.hpp"
 #include "dispatch.hpp"
@@ -23,13 +24,41 @@
 
 namespace tarn::elementwise {
 
+// Besides the arithmetic an operation says which bodies its family has where families differ:
+//   kArrayRowLoop  two arrays of long contiguous rows (mama, vava at other sizes) take the
+//                  8-element row loop; without it they take the forward loop by two.
+//   kNoPairLen4    the contiguous LayoutS 32f worker of two vector arrays has no len-4 body
+//                  (len 4 falls to the forward loop by two).
+// Neither changes a result: every element is computed by the same operations on every path.
 struct AddOp {
+  static constexpr bool kArrayRowLoop = true, kNoPairLen4 = false;
   template <class T> T operator()(T a, T b) const { return a + b; }
   template <class V> V vec(V a, V b) const { return simd::add(a, b); }
 };
 struct SubOp {
+  static constexpr bool kArrayRowLoop = false, kNoPairLen4 = false;
   template <class T> T operator()(T a, T b) const { return a - b; }
   template <class V> V vec(V a, V b) const { return simd::sub(a, b); }
+};
+
+// a*s + b and a*s1 + b*s2 with the scalars of the call captured: every product and the sum are
+// separate operations, each rounded in the element type (the build forbids contraction, and the
+// register forms use a multiply and an add, never a fused instruction).
+template <class T>
+struct SaxpyOp {
+  static constexpr bool kArrayRowLoop = false, kNoPairLen4 = true;
+  T s;
+  T operator()(T a, T b) const { return a * s + b; }
+  template <class V> V vec(V a, V b) const { return simd::add(simd::mul(a, simd::broadcast(s)), b); }
+};
+template <class T>
+struct LCombOp {
+  static constexpr bool kArrayRowLoop = false, kNoPairLen4 = true;
+  T s1, s2;
+  T operator()(T a, T b) const { return a * s1 + b * s2; }
+  template <class V> V vec(V a, V b) const {
+    return simd::add(simd::mul(a, simd::broadcast(s1)), simd::mul(b, simd::broadcast(s2)));
+  }
 };
 
 // ---- plainBody -------------------------------------------------------------------------
@@ -324,11 +353,20 @@ void worker(const Op& op, const D& d, const A& a, const B& b, int32_t count, int
   constexpr bool kRows = Contig && L != Layout::P && S.a.kind != 't' && S.b.kind != 't';
   auto fixed = [&]<int H, int W>() {
     if constexpr (L == Layout::P) {
+      // A single operand's values are taken once, before any result is stored.
+      const auto fa = frozen<H * W>(cached<H * W>(a));
+      const auto fb = frozen<H * W>(cached<H * W>(b));
       int32_t done = 0;
       if (packedStream(d) && packedStream(a) && packedStream(b)) done = streamBody<H, W, T>(op, d, a, b, count);
-      if (done < count)
-        plainBody<H, W>(op, cached<H * W>(d.from(done)), cached<H * W>(a.from(done)), cached<H * W>(b.from(done)),
-                        count - done, H, W);
+      if (done == 0) {
+        plainBody<H, W>(op, cached<H * W>(d), fa, fb, count, H, W);
+      } else if (done < count) {
+        auto rest = [&](const auto& x, const auto& fx) {
+          if constexpr (IsOne<std::decay_t<decltype(x)>>::value) return fx;
+          else return cached<H * W>(x.from(done));
+        };
+        plainBody<H, W>(op, cached<H * W>(d.from(done)), rest(a, fa), rest(b, fb), count - done, H, W);
+      }
     } else if constexpr (kRows) {
       auto rows = [&](const auto& d, const auto& a, const auto& b, int32_t count) {
         auto body = [&]<int RH, int RW>() {
@@ -366,14 +404,18 @@ void worker(const Op& op, const D& d, const A& a, const B& b, int32_t count, int
       }
     }
   } else {
+    constexpr bool kLen4 = !(Op::kNoPairLen4 && std::is_same_v<T, float> && L == Layout::S && Contig &&
+                             S.a.array && S.b.array);
     switch (w) {
       case 3: return fixed.template operator()<1, 3>();
-      case 4: return fixed.template operator()<1, 4>();
+      case 4:
+        if constexpr (kLen4) return fixed.template operator()<1, 4>();
+        break;
       case 5: return fixed.template operator()<1, 5>();
       case 6: return fixed.template operator()<1, 6>();
     }
   }
-  if constexpr (kRows && S.a.array && S.b.array && S.a.kind != 'c' && S.b.kind != 'c') {
+  if constexpr (Op::kArrayRowLoop && kRows && S.a.array && S.b.array && S.a.kind != 'c' && S.b.kind != 'c') {
     // Two arrays of long contiguous rows (mama, vava): the 8-element loop, row by row.
     for (int32_t n = 0; n < count; ++n) {
       const auto dv = d.obj(n);

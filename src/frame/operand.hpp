@@ -188,4 +188,37 @@ auto cached(const Trans<A>& t) {
   return Trans<decltype(inner)>{inner};
 }
 
+// The single operand of a LayoutP array call, read once per call into the accessor, as the
+// fixed sizes do: every object then sees these values, whatever the call writes meanwhile.
+template <class T>
+struct ValuesObj {
+  using Elem = const T;
+  const T* v;
+  int32_t sw;
+  const T* at(int32_t r, int32_t c) const { return v + r * sw + c; }
+};
+template <class T, int N>
+struct OneValues {
+  T v[N];
+  int32_t sw;
+  ValuesObj<T> obj(int32_t) const { return {v, sw}; }
+};
+template <int N, class A>
+auto frozen(const A& a) {
+  return a;
+}
+template <int N, class U>
+auto frozen(const OneCached<U, N>& a) {
+  using T = std::remove_const_t<U>;
+  OneValues<T, N> o;
+  for (int i = 0; i < N; ++i) o.v[i] = *a.base[i];
+  o.sw = a.sw;
+  return o;
+}
+template <int N, class A>
+auto frozen(const Trans<A>& t) {
+  auto inner = frozen<N>(t.a);
+  return Trans<decltype(inner)>{inner};
+}
+
 }  // namespace tarn

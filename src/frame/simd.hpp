@@ -114,3 +114,48 @@ inline Row<T, W> broadcastRow(T v) {
 inline bool aligned16(const void* p) { return (reinterpret_cast<uintptr_t>(p) & 15) == 0; }
 
 }  // namespace tarn::simd
+
+// ---- Data movement --------------------------------------------------------------------------
+// Shuffles, unpacks and plain loads and stores move bits unchanged, so everything below keeps
+// every pattern, signalling NaNs included.
+namespace tarn::simd {
+
+inline __m128 constant(float a, float b, float c, float d) { return _mm_setr_ps(a, b, c, d); }
+inline __m128 zeroFloats() { return _mm_setzero_ps(); }
+
+// The upper two floats of v to p[0], p[1]: an 8-byte store.
+inline void storeHigh(float* p, __m128 v) { _mm_storeh_pi(reinterpret_cast<__m64*>(p), v); }
+
+// Four rows in, four columns out.
+inline void transpose4(__m128& a, __m128& b, __m128& c, __m128& d) {
+  const __m128 t0 = _mm_unpacklo_ps(a, b), t1 = _mm_unpacklo_ps(c, d);
+  const __m128 t2 = _mm_unpackhi_ps(a, b), t3 = _mm_unpackhi_ps(c, d);
+  a = _mm_movelh_ps(t0, t1);
+  b = _mm_movehl_ps(t1, t0);
+  c = _mm_movelh_ps(t2, t3);
+  d = _mm_movehl_ps(t3, t2);
+}
+// (a0, a1), (b0, b1) -> (a0, b0), (a1, b1).
+inline void transpose2(__m128d& a, __m128d& b) {
+  const __m128d lo = _mm_unpacklo_pd(a, b);
+  b = _mm_unpackhi_pd(a, b);
+  a = lo;
+}
+
+// Four single floats from anywhere into one register, in order.
+inline __m128 gather4(const float* a, const float* b, const float* c, const float* d) {
+  const __m128 ab = _mm_unpacklo_ps(_mm_load_ss(a), _mm_load_ss(b));
+  const __m128 cd = _mm_unpacklo_ps(_mm_load_ss(c), _mm_load_ss(d));
+  return _mm_movelh_ps(ab, cd);
+}
+inline __m128d gather2(const double* a, const double* b) { return _mm_loadh_pd(_mm_load_sd(a), b); }
+
+// A 4-byte store that bypasses the caches; storeFence() orders all of them before what follows.
+inline void streamStore(float* p, const float* s) {
+  int32_t bits;
+  __builtin_memcpy(&bits, s, 4);
+  _mm_stream_si32(reinterpret_cast<int*>(p), bits);
+}
+inline void storeFence() { _mm_sfence(); }
+
+}  // namespace tarn::simd

@@ -34,7 +34,9 @@ struct Member {
   Layout lay, lay2;  // lay2 only for Copy's destination
   std::vector<Param> params;
   std::vector<std::string> blkHas;  // per op index: the BlkField mask expression
+  std::vector<int> blkMask;         // the same as numbers, for the tests
   std::string sizes = "0";
+  int sizeMask = 0;
   bool hasCount = false;
   std::string checks;
   bool serialOnly = false;
@@ -72,10 +74,13 @@ class Builder {
     const std::string op = "op[" + std::to_string(i) + "]";
     const std::string cq = write ? "" : "const ";
     std::string has;
+    int mask = 0;
     auto add = [&](const std::string& ctype, const std::string& pname, const std::string& field,
                    const char* bit) {
       m_.params.push_back({ctype, pname, op + "." + field});
-      if (bit) has += std::string(has.empty() ? "" : "|") + bit;
+      if (!bit) return;
+      has += std::string(has.empty() ? "" : "|") + bit;
+      mask |= std::string_view(bit) == "kObj" ? 1 : std::string_view(bit) == "kRow" ? 2 : std::string_view(bit) == "kElem" ? 4 : 8;
     };
     if (kind == 'c') {  // an array of constants; a single constant is passed by value
       if (lay == Layout::L) {
@@ -100,12 +105,14 @@ class Builder {
       }
     }
     m_.blkHas.push_back(has.empty() ? "0" : has);
+    m_.blkMask.push_back(mask);
   }
 
   void plainPointer(const std::string& name) {
     const int i = nop_++;
     m_.params.push_back({t_ + "*", name, "op[" + std::to_string(i) + "].ptr"});
     m_.blkHas.push_back("0");
+    m_.blkMask.push_back(0);
   }
 
   void scalar(const std::string& name, int slot) {
@@ -117,9 +124,11 @@ class Builder {
       m_.params.push_back({"int32_t", "width", "width"});
       m_.params.push_back({"int32_t", "height", "height"});
       m_.sizes = "kWidth|kHeight";
+      m_.sizeMask = 3;
     } else {
       m_.params.push_back({"int32_t", "len", "len"});
       m_.sizes = "kLen";
+      m_.sizeMask = 4;
     }
   }
 
@@ -172,7 +181,7 @@ void buildParams(Member& m) {
       if (two) b.scalar("val2", 1);
       b.block('v', anyArray, m.lay, "dst", true);
       b.sizes(false);
-      b.count();
+      if (anyArray) b.count();  // the single-object vv has none
       return;
     }
     case Sig::Copy:
@@ -447,7 +456,9 @@ std::string invokers(const std::vector<Member>& ms) {
       const auto& p = m.params[i];
       s << (i ? ", " : "") << "static_cast<" << p.ctype << ">(a." << p.field << ")";
     }
-    s << "); }, \"" << m.checks << "\", " << (m.serialOnly ? "true" : "false") << "},\n";
+    s << "); }, \"" << m.checks << "\", " << (m.serialOnly ? "true" : "false") << ", " << m.blkMask.size() << ", {";
+    for (size_t i = 0; i < m.blkMask.size(); ++i) s << (i ? ", " : "") << m.blkMask[i];
+    s << "}, " << m.sizeMask << ", " << (m.hasCount ? "true" : "false") << "},\n";
   }
   return s.str();
 }

@@ -1,0 +1,18 @@
+// Saxpy: dst = src1*val + src2, the product and the sum each rounded in the element type.
+#include "elementwise.hpp"
+#include "validate.hpp"
+
+namespace tarn::saxpy {
+
+template <Pat P, class T, Layout L>
+tarnStatus run(const Spec& spec, const Call& c) {
+  using Op = elementwise::SaxpyOp<T>;
+  return elementwise::run<Op, P, T, L>(Op{T(c.val[0])}, spec, c);
+}
+
+}  // namespace tarn::saxpy
+
+#define TARN_HIDDEN __attribute__((visibility("hidden")))
+#define TARN_IMPL_saxpy
+using namespace tarn;
+#include "entries.inc"
