@@ -240,7 +240,7 @@ template <int H, int W, class E> bool denseOperand(const One<StridedObj<E, true>
   return H == 1 || a.v.row == W * int32_t(sizeof(E));
 }
 template <class A> bool denseAligned(const A& a) { return simd::aligned16(a.obj(0).p); }
-template <class V> bool denseAligned(const One<V>&) { return true; }
+template <class V> bool denseAligned(const One<V>&) { return true; }  // a source, read once
 
 // One source of a group as registers: loaded per group, or the single operand of an array call
 // repeated over the G objects of a group and loaded once, element by element.
@@ -357,7 +357,8 @@ void worker(const Op& op, const D& d, const A& a, const B& b, int32_t count, int
       const auto fa = frozen<H * W>(cached<H * W>(a));
       const auto fb = frozen<H * W>(cached<H * W>(b));
       int32_t done = 0;
-      if (packedStream(d) && packedStream(a) && packedStream(b)) done = streamBody<H, W, T>(op, d, a, b, count);
+      if constexpr (S.anyArray)
+        if (packedStream(d) && packedStream(a) && packedStream(b)) done = streamBody<H, W, T>(op, d, a, b, count);
       if (done == 0) {
         plainBody<H, W>(op, cached<H * W>(d), fa, fb, count, H, W);
       } else if (done < count) {
@@ -380,7 +381,7 @@ void worker(const Op& op, const D& d, const A& a, const B& b, int32_t count, int
           if (gaplessRows<W>(d) && gaplessRows<W>(a) && gaplessRows<W>(b)) return body.template operator()<1, H * W>();
         body.template operator()<H, W>();
       };
-      if constexpr (L == Layout::S && Dense<T, H, W>::kUse) {
+      if constexpr (L == Layout::S && S.anyArray && Dense<T, H, W>::kUse) {
         if (denseOperand<H, W>(d) && denseOperand<H, W>(a) && denseOperand<H, W>(b)) {
           const int32_t done = denseAligned(d) && denseAligned(a) && denseAligned(b)
                                    ? denseBody<H, W, true, T>(op, d, a, b, count)
