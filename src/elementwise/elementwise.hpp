@@ -249,27 +249,25 @@ class DenseReader {
   using Dn = Dense<T, H, W>;
   static constexpr int kL = simd::kLanes<T>;
   static constexpr bool kShared = IsOne<A>::value;
-  A a_;
+  const T* base_ = nullptr;
   simd::Vec<T> pre_[kShared ? Dn::kRegs : 1];
 
  public:
-  explicit DenseReader(const A& a) : a_(a) {
+  explicit DenseReader(const A& a) {
+    if constexpr (!kShared) base_ = a.obj(0).p;
     if constexpr (kShared) {
       alignas(16) T rep[Dn::kRegs * kL];
-      const auto o = a_.obj(0);
+      const auto o = a.obj(0);
       for (int g = 0; g < Dn::kGroup; ++g)
         for (int r = 0; r < H; ++r)
           for (int c = 0; c < W; ++c) rep[(g * H + r) * W + c] = *o.at(r, c);
       for (int k = 0; k < Dn::kRegs; ++k) pre_[k] = simd::load<kL, true>(rep + k * kL);
     }
   }
-  simd::Vec<T> reg(const T* p, int k) const {
+  // Register k of the group whose first object lies `off` bytes behind object 0.
+  simd::Vec<T> reg(std::ptrdiff_t off, int k) const {
     if constexpr (kShared) return pre_[k];
-    else return simd::load<kL, Al>(p + k * kL);
-  }
-  const T* base(int32_t n) const {
-    if constexpr (kShared) return nullptr;
-    else return a_.obj(n).p;
+    else return simd::load<kL, Al>(byteAdd(base_, off) + k * kL);
   }
 };
 
@@ -280,12 +278,15 @@ int32_t denseBody(const Op& op, const D& d, const A& a, const B& b, int32_t coun
   constexpr int kL = simd::kLanes<T>;
   const DenseReader<T, H, W, Al, A> ra(a);
   const DenseReader<T, H, W, Al, B> rb(b);
+  // Every array operand has objStride kObjBytes here, so object n of each lies n*kObjBytes
+  // bytes (a 32-bit product) behind its first; the offset is carried from group to group.
+  T* const d0 = d.obj(0).p;
   const int32_t end = count - count % Dn::kGroup;
-  for (int32_t n = 0; n < end; n += Dn::kGroup) {
-    T* pd = d.obj(n).p;
-    const T* pa = ra.base(n);
-    const T* pb = rb.base(n);
-    for (int k = 0; k < Dn::kRegs; ++k) simd::store<kL, Al>(pd + k * kL, op.vec(ra.reg(pa, k), rb.reg(pb, k)));
+  uint32_t off = 0;
+  for (int32_t n = 0; n < end; n += Dn::kGroup, off += uint32_t(Dn::kGroup * Dn::kObjBytes)) {
+    const std::ptrdiff_t o = int32_t(off);
+    T* pd = byteAdd(d0, o);
+    for (int k = 0; k < Dn::kRegs; ++k) simd::store<kL, Al>(pd + k * kL, op.vec(ra.reg(o, k), rb.reg(o, k)));
   }
   return end;
 }
