@@ -5,8 +5,7 @@
 #   REPS=9 MIN_TIME=0.5 bench/run.sh  steadier numbers on a quiet machine
 #   bench/run.sh --benchmark_filter=mama_32f/3x3   any further Google Benchmark flags
 #
-# Needs cmake, clang++, python3 and the Debian packages below; run as root it installs those
-# that are missing. The build directory is separate from the test build (TARN_BENCH_BUILD).
+# Run as root it installs the Debian packages below that are missing. The build directory is separate from the test build (TARN_BENCH_BUILD).
 set -eu
 
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -16,23 +15,20 @@ reps=${REPS:-5}
 min_time=${MIN_TIME:-0.2}
 
 missing=""
-for p in libbenchmark-dev libeigen3-dev libglm-dev gnuplot-nox; do
+for p in cmake ninja-build clang libomp-dev libstdc++-12-dev python3 libbenchmark-dev libeigen3-dev libglm-dev gnuplot-nox; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "ok installed" || missing="$missing $p"
 done
 if [ -n "$missing" ]; then
   if [ "$(id -u)" = 0 ]; then
-    apt-get update && apt-get install -y $missing
+    apt-get update -qq && DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing
   else
     echo "run.sh: missing packages:$missing (install them, or run as root)" >&2
     exit 1
   fi
 fi
 
-generator=""
-command -v ninja >/dev/null 2>&1 && generator="-G Ninja"
-# shellcheck disable=SC2086
-cmake -S "$root" -B "$build" $generator -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER=clang++ \
-  -DTARN_BUILD_BENCH=ON -DTARN_BUILD_TESTS=OFF -DTARN_BUILD_EXAMPLES=OFF >/dev/null
+(cd "$root" && cmake --preset default -B "$build" -DTARN_BUILD_BENCH=ON -DTARN_BUILD_TESTS=OFF \
+  -DTARN_BUILD_EXAMPLES=OFF >/dev/null)
 cmake --build "$build" -j2 --target tarn_bench
 
 mkdir -p "$out"

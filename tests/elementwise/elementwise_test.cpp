@@ -35,7 +35,7 @@ TEST(Elementwise, EveryMemberShapeAndPlacement) {
       unsigned seed = 1;
       for (const EwShape& s : shapesOf(parseName(m->name).pattern))
         for (const Style& st : styles())
-          for (int count : {1, 3})
+          for (int count : {1, 3, 9})  // 9: whole groups of packed objects and a remainder
             EXPECT_EQ(runElementwise(*m, s, count, st, 1, seed++, f.ref).failure, "");
     }
   }
