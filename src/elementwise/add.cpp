@@ -5,8 +5,8 @@
 namespace tarn::add {
 
 template <Pat P, class T, Layout L>
-tarnStatus run(const Spec& spec, const Call& c) {
-  return elementwise::run<elementwise::AddOp, P, T, L>(elementwise::AddOp{}, spec, c);
+tarnStatus run(const Plan& plan, const Call& c) {
+  return elementwise::run<elementwise::AddOp, P, T, L>(elementwise::AddOp{}, plan, c);
 }
 
 }  // namespace tarn::add

@@ -452,7 +452,7 @@ void worker(const Op& op, const D& d, const A& a, const B& b, int32_t count, int
 // Builds the accessors of pattern P, picks the path (contiguous or general, serial or the
 // wrapper) and runs it. Element-wise workers cannot fail.
 template <class Op, Pat P, class T, Layout L>
-tarnStatus run(const Op& op, const Spec& spec, const Call& c) {
+tarnStatus run(const Op& op, const Plan& plan, const Call& c) {
   constexpr Shape S = shapeOf(P);
   constexpr bool kConstFirst = S.a.kind == 'c';
   constexpr bool kConstByValue = (S.a.kind == 'c' && !S.a.array) || (S.b.kind == 'c' && !S.b.array);
@@ -473,7 +473,7 @@ tarnStatus run(const Op& op, const Spec& spec, const Call& c) {
         worker<T, L, Contig, S>(op, d.from(first), a.from(first), b.from(first), n, h, w);
         return tarnStatusOk;
       };
-      if (wantsWrapper(spec, c, Contig)) return parallelRun<false>(c.count, 0, work);
+      if (wantsWrapper(plan, c, Contig)) return parallelRun<false>(c.count, 0, work);
       return work(0, c.count, nullptr);
     }
   };

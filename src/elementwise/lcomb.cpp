@@ -6,9 +6,9 @@
 namespace tarn::lcomb {
 
 template <Pat P, class T, Layout L>
-tarnStatus run(const Spec& spec, const Call& c) {
+tarnStatus run(const Plan& plan, const Call& c) {
   using Op = elementwise::LCombOp<T>;
-  return elementwise::run<Op, P, T, L>(Op{T(c.val[0]), T(c.val[1])}, spec, c);
+  return elementwise::run<Op, P, T, L>(Op{T(c.val[0]), T(c.val[1])}, plan, c);
 }
 
 }  // namespace tarn::lcomb

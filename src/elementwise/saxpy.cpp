@@ -5,9 +5,9 @@
 namespace tarn::saxpy {
 
 template <Pat P, class T, Layout L>
-tarnStatus run(const Spec& spec, const Call& c) {
+tarnStatus run(const Plan& plan, const Call& c) {
   using Op = elementwise::SaxpyOp<T>;
-  return elementwise::run<Op, P, T, L>(Op{T(c.val[0])}, spec, c);
+  return elementwise::run<Op, P, T, L>(Op{T(c.val[0])}, plan, c);
 }
 
 }  // namespace tarn::saxpy

@@ -8,8 +8,8 @@
 namespace tarn::sub {
 
 template <Pat P, class T, Layout L>
-tarnStatus run(const Spec& spec, const Call& c) {
-  return elementwise::run<elementwise::SubOp, P, T, L>(elementwise::SubOp{}, spec, c);
+tarnStatus run(const Plan& plan, const Call& c) {
+  return elementwise::run<elementwise::SubOp, P, T, L>(elementwise::SubOp{}, plan, c);
 }
 
 }  // namespace tarn::sub

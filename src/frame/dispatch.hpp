@@ -35,7 +35,7 @@ inline int32_t estimate(Est e, const Call& c) {
 }
 
 // Whether the call goes to the parallel wrapper on the path chosen by `contig`.
-inline bool wantsWrapper(const Spec& s, const Call& c, bool contig) {
+inline bool wantsWrapper(const Plan& s, const Call& c, bool contig) {
   return s.parallel && estimate(s.est, c) >= (contig ? s.thrC : s.thrG);
 }
 

@@ -74,7 +74,7 @@ struct Override {
 };
 
 // What a binding hands to its family: the resolved row for one export.
-struct Spec {
+struct Plan {
   const char* checks;
   Est est;
   int32_t thrC, thrG;  // equal where the path has one threshold

@@ -26,7 +26,7 @@ void copyLoop(const D& dst, const S& src, int32_t count, int32_t height, int32_t
 }
 
 template <Pat P, class T, Layout LS, Layout LD>
-tarnStatus run(const Spec&, const Call& c) {
+tarnStatus run(const Plan&, const Call& c) {
   const auto [h, w] = move::extentOf<P>(c);
   copyLoop(move::arrayOf<T, LD>(c.op[1], w), move::arrayOf<const T, LS>(c.op[0], w), c.count, h, w);
   return tarnStatusOk;

@@ -40,7 +40,7 @@ void byEntry(T* dst, const T* const* tbl, int32_t roi, int32_t objStride, int32_
 }
 
 template <Pat P, class T, Layout L>
-tarnStatus run(const Spec&, const Call& c) {
+tarnStatus run(const Plan&, const Call& c) {
   constexpr Shape S = shapeOf(P);
   const auto [h, w] = move::extentOf<P>(c);
   const int32_t count = S.a.array ? c.count : 1;

@@ -87,7 +87,7 @@ void fillRows(const PackedRows& d, int32_t count, int32_t height, int32_t width)
 }
 
 template <Pat P, class T, Layout L>
-tarnStatus run(const Spec&, const Call& c) {
+tarnStatus run(const Plan&, const Call& c) {
   const Blk& b = c.op[0];
   if constexpr (L == Layout::S && sizeof(T) == 4) {
     if (b.elem == 4) {

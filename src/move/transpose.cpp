@@ -247,7 +247,7 @@ void tiled(const float* src, int32_t srcRowStride, float* dst, int32_t dstRowStr
 }
 
 template <Pat P, class T, Layout L>
-tarnStatus run(const Spec&, const Call& c) {
+tarnStatus run(const Plan&, const Call& c) {
   constexpr bool kArray = P == Pat::ma;
   const int32_t w = c.width, h = c.height, count = kArray ? c.count : 1;
   if constexpr (L == Layout::P) {

@@ -428,18 +428,18 @@ std::string entries(const std::vector<Member>& ms) {
       const int32_t c = m.lay == Layout::S ? t.sC : m.lay == Layout::L ? t.lC : t.p;
       const int32_t g = m.lay == Layout::S ? t.sG : m.lay == Layout::L ? t.lG : t.p;
       const bool parallel = m.row->est != Est::None && !m.serialOnly;
-      s << "  static constexpr Spec kSpec{\"" << m.checks << "\", " << estName(m.row->est) << ", " << c << ", " << g
+      s << "  static constexpr Plan kPlan{\"" << m.checks << "\", " << estName(m.row->est) << ", " << c << ", " << g
         << ", " << (parallel ? "true" : "false") << "};\n";
       s << "  Call c{};\n";
       for (const auto& p : m.params) s << "  c." << p.field << " = " << p.name << ";\n";
       for (size_t i = 0; i < m.blkHas.size(); ++i) s << "  c.op[" << i << "].has = " << m.blkHas[i] << ";\n";
       s << "  c.nop = " << m.blkHas.size() << ";\n  c.sizes = " << m.sizes << ";\n";
       if (m.hasCount) s << "  c.hasCount = true;\n";
-      s << "  if (const tarnStatus s = validate(kSpec.checks, c, " << (m.f64 ? 8 : 4) << ")) return s;\n";
+      s << "  if (const tarnStatus s = validate(kPlan.checks, c, " << (m.f64 ? 8 : 4) << ")) return s;\n";
       s << "  return " << impl << "::run<Pat::" << (m.row->pattern.empty() ? "none" : std::string(m.row->pattern))
         << ", " << (m.f64 ? "double" : "float") << ", " << layoutEnum(m.lay);
       if (m.row->sig == Sig::Copy) s << ", " << layoutEnum(m.lay2);
-      s << ">(kSpec, c);\n}\n";
+      s << ">(kPlan, c);\n}\n";
     }
     s << "#endif\n";
   }
