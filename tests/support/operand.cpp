@@ -1,10 +1,14 @@
 #include "operand.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
+
+#include <sys/mman.h>
+#include <unistd.h>
 
 namespace tt {
 
@@ -16,6 +20,8 @@ const std::vector<Style>& styles() {
       {.name = "padded", .rowPad = 1, .objPadBytes = 8, .misalign = 1},
       {.name = "strided", .elemGap = 2, .rowPad = 1, .objPadBytes = 24},
       {.name = "soa", .soa = true},
+      {.name = "guarded", .guard = true},
+      {.name = "guarded-padded", .rowPad = 1, .guard = true},
   };
   return kStyles;
 }
@@ -27,6 +33,28 @@ const Style& style(const std::string& name) {
 }
 
 static size_t roundUp(size_t v, size_t to) { return to ? (v + to - 1) / to * to : v; }
+
+Storage::Storage(size_t size, bool guard) : size_(size) {
+  if (!guard) {
+    vec_.assign(size, kFill);
+    data_ = vec_.data();
+    return;
+  }
+  const size_t page = size_t(sysconf(_SC_PAGESIZE)), body = roundUp(size, page);
+  mapSize_ = body + page;
+  void* m = mmap(nullptr, mapSize_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+  if (m == MAP_FAILED) std::abort();
+  map_ = static_cast<uint8_t*>(m);
+  mprotect(map_ + body, page, PROT_NONE);
+  data_ = map_ + body - size;
+  std::memset(data_, kFill, size);
+}
+
+Storage::Storage(const Storage& o) : Storage(o.size_, o.guarded()) { std::memcpy(data_, o.data_, size_); }
+
+Storage::~Storage() {
+  if (map_) munmap(map_, mapSize_);
+}
 
 size_t Operand::place(size_t bytes, size_t align) {
   used_ = roundUp(used_, align ? align : 1);
@@ -85,8 +113,16 @@ Operand::Operand(char layout, int esize, int rows, int cols, int count, bool arr
     blk_.row = int32_t(row);
     blk_.elem = int32_t(elem);
   }
-  mem_.assign(used_ + 64 + 64, kFill);
-  base_ = mem_.data() + (64 - reinterpret_cast<uintptr_t>(mem_.data()) % 64) % 64;
+  if (st.guard) {
+    // Storage ends with the last element, right before the inaccessible page.
+    size_t end = 0;
+    for (size_t o : off_) end = std::max(end, o + es);
+    mem_ = std::make_unique<Storage>(end, true);
+    base_ = mem_->data();
+  } else {
+    mem_ = std::make_unique<Storage>(used_ + 64 + 64, false);
+    base_ = mem_->data() + (64 - reinterpret_cast<uintptr_t>(mem_->data()) % 64) % 64;
+  }
   if (layout == 'P') {
     for (size_t e = 0; e < elems; ++e) table_[e] = base_ + off_[e] - blk_.roi;
     blk_.ptr = table_.data();
@@ -99,9 +135,10 @@ Operand::Operand(char layout, int esize, int rows, int cols, int count, bool arr
 }
 
 Operand::Operand(const Operand& o)
-    : esize_(o.esize_), rows_(o.rows_), cols_(o.cols_), count_(o.count_), mem_(o.mem_), used_(o.used_),
+    : esize_(o.esize_), rows_(o.rows_), cols_(o.cols_), count_(o.count_), mem_(std::make_unique<Storage>(*o.mem_)),
+      used_(o.used_),
       off_(o.off_), table_(o.table_), blk_(o.blk_) {
-  base_ = mem_.data() + (o.base_ - o.mem_.data());
+  base_ = mem_->data() + (o.base_ - o.mem_->data());
   const std::ptrdiff_t delta = base_ - o.base_;
   for (auto& t : table_) t = static_cast<uint8_t*>(t) + delta;
   blk_.ptr = o.table_.empty() ? static_cast<void*>(static_cast<uint8_t*>(o.blk_.ptr) + delta) : table_.data();
@@ -132,12 +169,12 @@ void Operand::fillRandom(std::mt19937& rng, bool specials) {
 }
 
 bool Operand::canariesIntact() const {
-  std::vector<bool> isElem(mem_.size(), false);
-  const size_t lead = size_t(base_ - mem_.data());
+  std::vector<bool> isElem(mem_->size(), false);
+  const size_t lead = size_t(base_ - mem_->data());
   for (size_t o : off_)
     for (int b = 0; b < esize_; ++b) isElem[lead + o + b] = true;
-  for (size_t i = 0; i < mem_.size(); ++i)
-    if (!isElem[i] && mem_[i] != kFill) return false;
+  for (size_t i = 0; i < mem_->size(); ++i)
+    if (!isElem[i] && mem_->data()[i] != kFill) return false;
   return true;
 }
 

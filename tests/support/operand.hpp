@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <random>
 #include <string>
 #include <vector>
@@ -20,6 +21,27 @@ struct Style {
   int misalign = 0;     // elements between a 64-byte boundary and the first element
   int alignTo = 0;      // round row and object strides and bases up to this many bytes
   bool soa = false;     // objects interleaved element by element (arrays only)
+  bool guard = false;   // the last element ends right before an inaccessible page
+};
+
+// Bytes an operand lives in. Guarded storage ends at a page the process may not touch, so a
+// kernel that reads or writes one byte past an operand's last element faults.
+class Storage {
+ public:
+  Storage(size_t size, bool guard);
+  Storage(const Storage& o);
+  Storage& operator=(const Storage&) = delete;
+  ~Storage();
+  uint8_t* data() const { return data_; }
+  size_t size() const { return size_; }
+  bool guarded() const { return map_ != nullptr; }
+
+ private:
+  std::vector<uint8_t> vec_;
+  uint8_t* map_ = nullptr;
+  size_t mapSize_ = 0;
+  uint8_t* data_ = nullptr;
+  size_t size_ = 0;
 };
 
 // The placements the sweeps run: each reaches a different branch of the kernels.
@@ -49,8 +71,8 @@ class Operand {
   // signed zeros and denormals.
   void fillRandom(std::mt19937& rng, bool specials);
 
-  std::vector<uint8_t> snapshot() const { return mem_; }
-  bool unchangedSince(const std::vector<uint8_t>& s) const { return s == mem_; }
+  std::vector<uint8_t> snapshot() const { return {mem_->data(), mem_->data() + mem_->size()}; }
+  bool unchangedSince(const std::vector<uint8_t>& s) const { return s == snapshot(); }
   // Every byte that is not an element still holds the fill pattern.
   bool canariesIntact() const;
   void* at(int n, int r, int c) const;
@@ -58,7 +80,7 @@ class Operand {
  private:
   size_t place(size_t bytes, size_t align);
   int esize_, rows_, cols_, count_;
-  std::vector<uint8_t> mem_;  // over-allocated; base_ is its 64-byte aligned start
+  std::unique_ptr<Storage> mem_;  // base_ is its 64-byte aligned start, or its start when guarded
   uint8_t* base_ = nullptr;
   size_t used_ = 0;
   std::vector<size_t> off_;   // byte offset of element (n, r, c)
