@@ -9,26 +9,10 @@
 
 namespace tarn::copy {
 
-template <class D, class S>
-void copyLoop(const D& dst, const S& src, int32_t count, int32_t height, int32_t width) {
-  for (int32_t n = 0; n < count; ++n) {
-    const auto d = dst.obj(n);
-    const auto s = src.obj(n);
-    for (int32_t r = 0; r < height; ++r) {
-      int32_t c = 0;
-      for (; c + 1 < width; c += 2) {
-        move::moveElem(d.at(r, c), s.at(r, c));
-        move::moveElem(d.at(r, c + 1), s.at(r, c + 1));
-      }
-      if (c < width) move::moveElem(d.at(r, c), s.at(r, c));
-    }
-  }
-}
-
 template <Pat P, class T, Layout LS, Layout LD>
 tarnStatus run(const Plan&, const Call& c) {
   const auto [h, w] = move::extentOf<P>(c);
-  copyLoop(move::arrayOf<T, LD>(c.op[1], w), move::arrayOf<const T, LS>(c.op[0], w), c.count, h, w);
+  move::elementLoop(move::arrayOf<T, LD>(c.op[1], w), move::arrayOf<const T, LS>(c.op[0], w), c.count, h, w);
   return tarnStatusOk;
 }
 

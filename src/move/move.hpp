@@ -33,6 +33,26 @@ auto arrayOf(const Blk& b, int32_t sw) {
   }
 }
 
+// Objects in ascending order, rows, then columns two at a time with a tail element: element
+// (r, c) of each dst object from element (r, c) of the src object. Each element is read and then
+// written before the next one is read, so when the operands overlap a later element reads what
+// an earlier one wrote. A transposing caller hands in its dst seen transposed.
+template <class D, class S>
+void elementLoop(const D& dst, const S& src, int32_t count, int32_t height, int32_t width) {
+  for (int32_t n = 0; n < count; ++n) {
+    const auto d = dst.obj(n);
+    const auto s = src.obj(n);
+    for (int32_t r = 0; r < height; ++r) {
+      int32_t c = 0;
+      for (; c + 1 < width; c += 2) {
+        moveElem(d.at(r, c), s.at(r, c));
+        moveElem(d.at(r, c + 1), s.at(r, c + 1));
+      }
+      if (c < width) moveElem(d.at(r, c), s.at(r, c));
+    }
+  }
+}
+
 // Rows and columns of a call's objects: a vector is one row of `len` elements.
 struct Extent {
   int32_t h, w;

@@ -152,20 +152,10 @@ void regs4(const D& dst, const S& src, int32_t count) {
   }
 }
 
+// Strided elements: src row by row, each element to its place in dst, which is seen transposed.
 template <class D, class S>
 void generalLoop(const D& dst, const S& src, int32_t count, int32_t w, int32_t h) {
-  for (int32_t n = 0; n < count; ++n) {
-    const auto d = dst.obj(n);
-    const auto s = src.obj(n);
-    for (int32_t r = 0; r < h; ++r) {
-      int32_t c = 0;
-      for (; c + 1 < w; c += 2) {
-        moveElem(d.at(c, r), s.at(r, c));
-        moveElem(d.at(c + 1, r), s.at(r, c + 1));
-      }
-      if (c < w) moveElem(d.at(c, r), s.at(r, c));
-    }
-  }
+  move::elementLoop(Trans<D>{dst}, src, count, h, w);
 }
 
 // Runs the unrolled body of order 3..6 if the matrices are square of that order.
