@@ -187,5 +187,7 @@ int main() {
     std::printf(" %14s %7.2fx\n", cell(tN), tLoop / std::min(t1, tN));
   }
   std::printf("\nGB/s counts bytes read plus bytes written; speedup is the plain loop's time over tarn's best.\n");
+  std::printf("Copy converts between any two layouts with one element-by-element loop; a loop written for\n"
+              "one fixed pair of layouts and one object size can beat it.\n");
   return allGood ? 0 : 1;
 }
