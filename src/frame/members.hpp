@@ -84,6 +84,8 @@ struct Plan {
 inline constexpr int32_t kElemMatS = 36864, kElemMatG = 18432, kElemMatP = 9216;
 inline constexpr Thr kElemMat{kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP};
 inline constexpr Thr kElemVec32 = thr(20001, 40001, 20001), kElemVec64 = thr(20001, 20001, 20001);
+inline constexpr Thr kSaxpy = thr(40001, 40001, 40001);
+inline constexpr Thr kLComb32{20001, 20001, 40001, 20001, 20001}, kLComb64 = thr(20001, 20001, 20001);
 
 // clang-format off
 inline constexpr Row kRows[] = {
@@ -144,17 +146,12 @@ inline constexpr Row kRows[] = {
   // Saxpy and LComb: a scalar by value right behind the operand it multiplies. Saxpy has one
   // threshold for every layout and path; LComb's LayoutL 32f contiguous path starts later.
   {"Saxpy", "vv",   "saxpy", Sig::Scaled1, "NZT", "", "NZR"},
-  {"Saxpy", "vav",  "saxpy", Sig::Scaled1, "NCZT", "NCZTR", "NCZTR", Est::TwoLenCountPlusLen,
-   thr(40001, 40001, 40001), thr(40001, 40001, 40001)},
-  {"Saxpy", "vva",  "saxpy", Sig::Scaled1, "NCZT", "NCZTR", "NCZTR", Est::TwoLenCountPlusLen,
-   thr(40001, 40001, 40001), thr(40001, 40001, 40001)},
-  {"Saxpy", "vava", "saxpy", Sig::Scaled1, "NCZT", "NCZTR", "NCZTR", Est::ThreeLenCount,
-   thr(40001, 40001, 40001), thr(40001, 40001, 40001)},
+  {"Saxpy", "vav",  "saxpy", Sig::Scaled1, "NCZT", "NCZTR", "NCZTR", Est::TwoLenCountPlusLen, kSaxpy, kSaxpy},
+  {"Saxpy", "vva",  "saxpy", Sig::Scaled1, "NCZT", "NCZTR", "NCZTR", Est::TwoLenCountPlusLen, kSaxpy, kSaxpy},
+  {"Saxpy", "vava", "saxpy", Sig::Scaled1, "NCZT", "NCZTR", "NCZTR", Est::ThreeLenCount, kSaxpy, kSaxpy},
   {"LComb", "vv",   "lcomb", Sig::Scaled2, "NZT", "", "NZR"},
-  {"LComb", "vav",  "lcomb", Sig::Scaled2, "NCZT", "NCZTR", "NCZTR", Est::TwoLenCountPlusLen,
-   {20001, 20001, 40001, 20001, 20001}, thr(20001, 20001, 20001)},
-  {"LComb", "vava", "lcomb", Sig::Scaled2, "NCZT", "NCZTR", "NCZTR", Est::ThreeLenCount,
-   {20001, 20001, 40001, 20001, 20001}, thr(20001, 20001, 20001)},
+  {"LComb", "vav",  "lcomb", Sig::Scaled2, "NCZT", "NCZTR", "NCZTR", Est::TwoLenCountPlusLen, kLComb32, kLComb64},
+  {"LComb", "vava", "lcomb", Sig::Scaled2, "NCZT", "NCZTR", "NCZTR", Est::ThreeLenCount, kLComb32, kLComb64},
 
   // Data movement: layout conversion, gathering, identity fill, transposition. Always serial.
   // Copy checks sizes before count, and object strides only when count > 1, last.

@@ -33,14 +33,25 @@ struct Member {
   bool f64;
   Layout lay, lay2;  // lay2 only for Copy's destination
   std::vector<Param> params;
-  std::vector<std::string> blkHas;  // per op index: the BlkField mask expression
-  std::vector<int> blkMask;         // the same as numbers, for the tests
-  std::string sizes = "0";
-  int sizeMask = 0;
+  std::vector<int> blkMask;  // per op index: the fields the block carries (BlkField bits)
+  int sizeMask = 0;          // SizeField bits
   bool hasCount = false;
   std::string checks;
   bool serialOnly = false;
 };
+
+// Bits of call.hpp's BlkField and SizeField, by the Call field or size they stand for.
+constexpr const char* kBlkFields[] = {"obj", "row", "elem", "roi"};
+constexpr const char* kBlkBits[] = {"kObj", "kRow", "kElem", "kRoi"};
+constexpr const char* kSizeBits[] = {"kWidth", "kHeight", "kLen"};
+
+// A mask as the expression the bindings spell it in, e.g. "kObj|kRow|kElem".
+std::string maskExpr(int mask, const char* const* names, int bits) {
+  std::string s;
+  for (int b = 0; b < bits; ++b)
+    if (mask & (1 << b)) s += (s.empty() ? "" : "|") + std::string(names[b]);
+  return s.empty() ? "0" : s;
+}
 
 struct Opnd {
   char kind;   // m t v c
@@ -73,45 +84,40 @@ class Builder {
     const int i = nop_++;
     const std::string op = "op[" + std::to_string(i) + "]";
     const std::string cq = write ? "" : "const ";
-    std::string has;
     int mask = 0;
-    auto add = [&](const std::string& ctype, const std::string& pname, const std::string& field,
-                   const char* bit) {
+    auto add = [&](const std::string& ctype, const std::string& pname, const std::string& field) {
       m_.params.push_back({ctype, pname, op + "." + field});
-      if (!bit) return;
-      has += std::string(has.empty() ? "" : "|") + bit;
-      mask |= std::string_view(bit) == "kObj" ? 1 : std::string_view(bit) == "kRow" ? 2 : std::string_view(bit) == "kElem" ? 4 : 8;
+      for (int bit = 0; bit < 4; ++bit)
+        if (field == kBlkFields[bit]) mask |= 1 << bit;
     };
     if (kind == 'c') {  // an array of constants; a single constant is passed by value
       if (lay == Layout::L) {
-        add(cq + t_ + "* const*", name, "ptr", nullptr);
-        add("int32_t", name + "RoiShift", "roi", "kRoi");
+        add(cq + t_ + "* const*", name, "ptr");
+        add("int32_t", name + "RoiShift", "roi");
       } else {
-        add(cq + t_ + "*", name, "ptr", nullptr);
-        add("int32_t", name + "ObjStride", "obj", "kObj");
+        add(cq + t_ + "*", name, "ptr");
+        add("int32_t", name + "ObjStride", "obj");
       }
     } else {
       const bool matrix = kind == 'm' || kind == 't';
       const bool table = lay == Layout::P || (lay == Layout::L && array);
-      add(cq + t_ + (table ? "* const*" : "*"), name, "ptr", nullptr);
+      add(cq + t_ + (table ? "* const*" : "*"), name, "ptr");
       if (lay == Layout::P) {
-        add("int32_t", name + "RoiShift", "roi", "kRoi");
-        if (array) add("int32_t", name + "ObjStride", "obj", "kObj");
+        add("int32_t", name + "RoiShift", "roi");
+        if (array) add("int32_t", name + "ObjStride", "obj");
       } else {
-        if (array && lay == Layout::L) add("int32_t", name + "RoiShift", "roi", "kRoi");
-        if (array && lay == Layout::S) add("int32_t", name + "ObjStride", "obj", "kObj");
-        if (matrix) add("int32_t", name + "RowStride", "row", "kRow");
-        add("int32_t", name + "ElemStride", "elem", "kElem");
+        if (array && lay == Layout::L) add("int32_t", name + "RoiShift", "roi");
+        if (array && lay == Layout::S) add("int32_t", name + "ObjStride", "obj");
+        if (matrix) add("int32_t", name + "RowStride", "row");
+        add("int32_t", name + "ElemStride", "elem");
       }
     }
-    m_.blkHas.push_back(has.empty() ? "0" : has);
     m_.blkMask.push_back(mask);
   }
 
   void plainPointer(const std::string& name) {
     const int i = nop_++;
     m_.params.push_back({t_ + "*", name, "op[" + std::to_string(i) + "].ptr"});
-    m_.blkHas.push_back("0");
     m_.blkMask.push_back(0);
   }
 
@@ -123,11 +129,9 @@ class Builder {
     if (matrix) {
       m_.params.push_back({"int32_t", "width", "width"});
       m_.params.push_back({"int32_t", "height", "height"});
-      m_.sizes = "kWidth|kHeight";
-      m_.sizeMask = 3;
+      m_.sizeMask = 1 | 2;
     } else {
       m_.params.push_back({"int32_t", "len", "len"});
-      m_.sizes = "kLen";
       m_.sizeMask = 4;
     }
   }
@@ -432,8 +436,9 @@ std::string entries(const std::vector<Member>& ms) {
         << ", " << (parallel ? "true" : "false") << "};\n";
       s << "  Call c{};\n";
       for (const auto& p : m.params) s << "  c." << p.field << " = " << p.name << ";\n";
-      for (size_t i = 0; i < m.blkHas.size(); ++i) s << "  c.op[" << i << "].has = " << m.blkHas[i] << ";\n";
-      s << "  c.nop = " << m.blkHas.size() << ";\n  c.sizes = " << m.sizes << ";\n";
+      for (size_t i = 0; i < m.blkMask.size(); ++i)
+        s << "  c.op[" << i << "].has = " << maskExpr(m.blkMask[i], kBlkBits, 4) << ";\n";
+      s << "  c.nop = " << m.blkMask.size() << ";\n  c.sizes = " << maskExpr(m.sizeMask, kSizeBits, 3) << ";\n";
       if (m.hasCount) s << "  c.hasCount = true;\n";
       s << "  if (const tarnStatus s = validate(kPlan.checks, c, " << (m.f64 ? 8 : 4) << ")) return s;\n";
       s << "  return " << impl << "::run<Pat::" << (m.row->pattern.empty() ? "none" : std::string(m.row->pattern))
