@@ -236,6 +236,9 @@ tarnStatus tarnLoadIdentity_ma_64f(double* dst, int32_t dstObjStride, int32_t ds
 tarnStatus tarnLoadIdentity_ma_64f_L(double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
 tarnStatus tarnLoadIdentity_ma_64f_P(double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
 
+/** Matrix product dst = op(src1) * op(src2), each operand read as stored (m) or transposed (t); sizes describe the matrices as stored. */
+tarnStatus tarnMul_mm4x4_32f(const float* src1, const float* src2, float* dst);
+
 /** dst = src1*val + src2 per element: the product and the sum each rounded, never fused. */
 tarnStatus tarnSaxpy_vav_32f(const float* src1, int32_t src1ObjStride, int32_t src1ElemStride, float val, const float* src2, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
 tarnStatus tarnSaxpy_vav_32f_L(const float* const* src1, int32_t src1RoiShift, int32_t src1ElemStride, float val, const float* src2, int32_t src2ElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t len, int32_t count);

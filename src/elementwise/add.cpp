@@ -1,6 +1,5 @@
 // Add: dst = src1 + src2 element by element, in every operand form of the family.
 #include "elementwise.hpp"
-#include "validate.hpp"
 
 namespace tarn::add {
 
@@ -11,7 +10,5 @@ tarnStatus run(const Plan& plan, const Call& c) {
 
 }  // namespace tarn::add
 
-#define TARN_HIDDEN __attribute__((visibility("hidden")))
 #define TARN_IMPL_add
-using namespace tarn;
-#include "entries.inc"
+#include "bindings.hpp"

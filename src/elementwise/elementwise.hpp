@@ -449,8 +449,8 @@ void worker(const Op& op, const D& d, const A& a, const B& b, int32_t count, int
 
 // ---- Entry ---------------------------------------------------------------------------------
 
-// Builds the accessors of pattern P, picks the path (contiguous or general, serial or the
-// wrapper) and runs it. Element-wise workers cannot fail.
+// Builds the accessors of pattern P over the call the driver hands to the path's worker (all
+// objects, or one thread's slice) and runs the worker. Element-wise workers cannot fail.
 template <class Op, Pat P, class T, Layout L>
 tarnStatus run(const Op& op, const Plan& plan, const Call& c) {
   constexpr Shape S = shapeOf(P);
@@ -458,34 +458,15 @@ tarnStatus run(const Op& op, const Plan& plan, const Call& c) {
   constexpr bool kConstByValue = (S.a.kind == 'c' && !S.a.array) || (S.b.kind == 'c' && !S.b.array);
   constexpr int kIa = kConstFirst ? 1 : 0, kIb = kConstFirst ? 0 : 1, kId = kConstByValue ? 1 : 2;
   const int32_t h = S.matrix ? c.height : 1, w = S.matrix ? c.width : c.len;
-
-  auto go = [&]<bool Contig>() -> tarnStatus {
-    // A transposed operand is stored with `width` rows and `height` columns.
-    auto sw = [&](Operand k) { return !S.matrix ? c.len : k.kind == 't' ? c.height : c.width; };
-    const auto a = operandOf<T, L, Contig, S.a>(c.op[kIa], sw(S.a), c.val[0]);
-    const auto b = operandOf<T, L, Contig, S.b>(c.op[kIb], sw(S.b), c.val[0]);
-    const auto d = operandOf<T, L, Contig, Operand{S.matrix ? 'm' : 'v', S.anyArray}, true>(c.op[kId], w, 0);
-    if constexpr (!S.anyArray) {
-      worker<T, L, Contig, S>(op, d, a, b, 1, h, w);
-      return tarnStatusOk;
-    } else {
-      auto work = [&](int32_t first, int32_t n, std::byte*) {
-        worker<T, L, Contig, S>(op, d.from(first), a.from(first), b.from(first), n, h, w);
-        return tarnStatusOk;
-      };
-      if (wantsWrapper(plan, c, Contig)) return parallelRun<false>(c.count, 0, work);
-      return work(0, c.count, nullptr);
-    }
-  };
-  if constexpr (L == Layout::P) {
-    return go.template operator()<false>();
-  } else {
-    const int32_t es = int32_t(sizeof(T));
-    bool contig = true;
-    for (int i = 0; i < c.nop; ++i)
-      if ((c.op[i].has & kElem) && c.op[i].elem != es) contig = false;
-    return contig ? go.template operator()<true>() : go.template operator()<false>();
-  }
+  // A transposed operand is stored with `width` rows and `height` columns.
+  auto sw = [&](Operand k) { return !S.matrix ? c.len : k.kind == 't' ? c.height : c.width; };
+  return drive<T, L>(plan, c, [&]<bool Contig>(const Call& s) {
+    const auto a = operandOf<T, L, Contig, S.a>(s.op[kIa], sw(S.a), s.val[0]);
+    const auto b = operandOf<T, L, Contig, S.b>(s.op[kIb], sw(S.b), s.val[0]);
+    const auto d = operandOf<T, L, Contig, Operand{S.matrix ? 'm' : 'v', S.anyArray}, true>(s.op[kId], w, 0);
+    worker<T, L, Contig, S>(op, d, a, b, s.count, h, w);
+    return tarnStatusOk;
+  });
 }
 
 }  // namespace tarn::elementwise

@@ -1,7 +1,6 @@
 // LComb: dst = src1*val1 + src2*val2, both products and the sum each rounded in the element
 // type. The product of a single src2 is formed again for every object.
 #include "elementwise.hpp"
-#include "validate.hpp"
 
 namespace tarn::lcomb {
 
@@ -13,7 +12,5 @@ tarnStatus run(const Plan& plan, const Call& c) {
 
 }  // namespace tarn::lcomb
 
-#define TARN_HIDDEN __attribute__((visibility("hidden")))
 #define TARN_IMPL_lcomb
-using namespace tarn;
-#include "entries.inc"
+#include "bindings.hpp"

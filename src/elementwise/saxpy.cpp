@@ -1,6 +1,5 @@
 // Saxpy: dst = src1*val + src2, the product and the sum each rounded in the element type.
 #include "elementwise.hpp"
-#include "validate.hpp"
 
 namespace tarn::saxpy {
 
@@ -12,7 +11,5 @@ tarnStatus run(const Plan& plan, const Call& c) {
 
 }  // namespace tarn::saxpy
 
-#define TARN_HIDDEN __attribute__((visibility("hidden")))
 #define TARN_IMPL_saxpy
-using namespace tarn;
-#include "entries.inc"
+#include "bindings.hpp"

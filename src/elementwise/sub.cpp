@@ -3,7 +3,6 @@
 // ones; the shared entry reads the operands in the order of the arithmetic, so only the sign of
 // the operation tells them apart.
 #include "elementwise.hpp"
-#include "validate.hpp"
 
 namespace tarn::sub {
 
@@ -14,7 +13,5 @@ tarnStatus run(const Plan& plan, const Call& c) {
 
 }  // namespace tarn::sub
 
-#define TARN_HIDDEN __attribute__((visibility("hidden")))
 #define TARN_IMPL_sub
-using namespace tarn;
-#include "entries.inc"
+#include "bindings.hpp"

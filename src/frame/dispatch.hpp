@@ -1,4 +1,5 @@
-// Serial or parallel: the work estimate, the thresholds, and the one parallel wrapper.
+// Serial or parallel: the road of every call after validation, the slicing of a call among the
+// threads of a region, and the one parallel wrapper.
 #pragma once
 
 #include <omp.h>
@@ -8,6 +9,7 @@
 
 #include "call.hpp"
 #include "members.hpp"
+#include "operand.hpp"
 #include "platform.hpp"
 
 extern "C" {
@@ -17,35 +19,13 @@ void kmpc_free(void* ptr);
 
 namespace tarn {
 
-// E in wrapping 32-bit arithmetic; an overflow is not guarded and not meant to be reproduced.
-inline int32_t estimate(Est e, const Call& c) {
-  const uint32_t n = uint32_t(c.count), w = uint32_t(c.width), h = uint32_t(c.height), l = uint32_t(c.len);
-  uint32_t v = 0;
-  switch (e) {
-    case Est::None: v = 0; break;
-    case Est::TwoCountPlusOneWH: v = (2 * n + 1) * w * h; break;
-    case Est::ThreeCountWH: v = 3 * n * w * h; break;
-    case Est::TwoLenCountPlusLen: v = 2 * l * n + l; break;
-    case Est::TwoLenCountPlusCount: v = 2 * l * n + n; break;
-    case Est::ThreeLenCount: v = 3 * l * n; break;
-    case Est::LenCountPlusLenPlusCount: v = l * n + l + n; break;
-    case Est::TwoCount: v = 2 * n; break;
-  }
-  return int32_t(v);
-}
-
-// Whether the call goes to the parallel wrapper on the path chosen by `contig`.
-inline bool wantsWrapper(const Plan& s, const Call& c, bool contig) {
-  return s.parallel && estimate(s.est, c) >= (contig ? s.thrC : s.thrG);
-}
-
 // The slice of `count` objects that thread `id` of a team of `nt` takes: the first r threads one
 // object more. 10 objects on 3 threads: q = 3, r = 1; slices of 4, 3, 3 from objects 0, 4, 7.
-struct Slice {
+struct ThreadSlice {
   int32_t first, n;
 };
-inline Slice sliceOf(int32_t id, int32_t q, int32_t r) {
-  return id < r ? Slice{id * (q + 1), q + 1} : Slice{(q + 1) * r + (id - r) * q, q};
+inline ThreadSlice threadSlice(int32_t id, int32_t q, int32_t r) {
+  return id < r ? ThreadSlice{id * (q + 1), q + 1} : ThreadSlice{(q + 1) * r + (id - r) * q, q};
 }
 
 // The parallel wrapper. `work(first, n, scratch)` is the serial worker of the call's path on
@@ -74,7 +54,7 @@ tarnStatus parallelRun(int32_t count, size_t scratchPerThread, Work&& work) {
     }
 #pragma omp barrier
     const int32_t id = omp_get_thread_num();
-    const Slice s = sliceOf(id, q, r);
+    const ThreadSlice s = threadSlice(id, q, r);
     const tarnStatus st = work(s.first, s.n, scratch ? scratch + size_t(id) * scratchPerThread : nullptr);
     if constexpr (CanFail) {
 #pragma omp critical(tarnStatusLock)
@@ -83,6 +63,57 @@ tarnStatus parallelRun(int32_t count, size_t scratchPerThread, Work&& work) {
   }
   if (scratch) kmpc_free(scratch);
   return CanFail ? status : tarnStatusOk;
+}
+
+// The call a thread's worker sees: every array operand moved to object `first` and `count`
+// replaced by n; single operands and shared plain pointers stay; the caller's work space is
+// replaced by the thread's part of the wrapper's scratch when the wrapper allocated one.
+inline Call sliceCall(const Call& c, int32_t first, int32_t n, std::byte* scratch) {
+  Call s = c;
+  s.count = n;
+  for (int i = 0; i < s.nop; ++i) {
+    Blk& b = s.op[i];
+    switch (b.slice) {
+      case Slice::Shared: break;
+      case Slice::ByObjStride: b.ptr = byteAdd(b.ptr, off32(first, b.obj)); break;
+      case Slice::ByTable: b.ptr = static_cast<const void* const*>(b.ptr) + first; break;
+      case Slice::ByRoi: b.roi = int32_t(uint32_t(b.roi) + uint32_t(off32(first, b.obj))); break;
+      case Slice::ByElems: b.ptr = byteAdd(b.ptr, off32(first, b.perObj)); break;
+      case Slice::Scratch:
+        if (scratch) b.ptr = scratch;
+        break;
+    }
+  }
+  return s;
+}
+
+// A call is contiguous when every element stride it has equals the element size; row and object
+// strides are free.
+inline bool contiguous(const Call& c, int32_t esize) {
+  for (int i = 0; i < c.nop; ++i)
+    if ((c.op[i].has & kElem) && c.op[i].elem != esize) return false;
+  return true;
+}
+
+// The road of a validated call: the contiguity test picks the path (LayoutP has one), then the
+// serial worker of that path runs on all objects, or, from the path's threshold on, the parallel
+// wrapper runs it on each thread's slice. Where a family tests E before contiguity it has one
+// threshold for both paths, and the two orders choose alike. `work.template operator()<Contig>`
+// is the family's serial worker of the path over the objects of the call it is handed.
+template <class T, Layout L, class Work>
+tarnStatus drive(const Plan& plan, const Call& c, Work&& work) {
+  auto path = [&]<bool Contig>() -> tarnStatus {
+    if (plan.parallel && c.est >= (Contig ? plan.thrC : plan.thrG)) {
+      auto slice = [&](int32_t first, int32_t n, std::byte* scratch) {
+        return work.template operator()<Contig>(sliceCall(c, first, n, scratch));
+      };
+      const size_t scratch = size_t(uint32_t(c.scratch));
+      return plan.canFail ? parallelRun<true>(c.count, scratch, slice) : parallelRun<false>(c.count, scratch, slice);
+    }
+    return work.template operator()<Contig>(c);
+  };
+  if constexpr (L == Layout::P) return path.template operator()<false>();
+  else return contiguous(c, int32_t(sizeof(T))) ? path.template operator()<true>() : path.template operator()<false>();
 }
 
 }  // namespace tarn

@@ -46,6 +46,10 @@ inline void store(double* p, __m128d v) {
 inline __m128 broadcast(float v) { return _mm_set1_ps(v); }
 inline __m128d broadcast(double v) { return _mm_set1_pd(v); }
 
+// Lane K of v in every lane.
+template <int K> inline __m128 splat(__m128 v) { return _mm_shuffle_ps(v, v, K * 0x55); }
+template <int K> inline __m128d splat(__m128d v) { return _mm_shuffle_pd(v, v, K * 3); }
+
 inline __m128 add(__m128 a, __m128 b) { return _mm_add_ps(a, b); }
 inline __m128d add(__m128d a, __m128d b) { return _mm_add_pd(a, b); }
 inline __m128 sub(__m128 a, __m128 b) { return _mm_sub_ps(a, b); }

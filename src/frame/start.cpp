@@ -3,7 +3,6 @@
 #include "call.hpp"
 #include "members.hpp"
 #include "platform.hpp"
-#include "validate.hpp"
 
 namespace tarn {
 
@@ -29,7 +28,5 @@ const tarnLibraryVersion* run() { return &tarnLibraryVersionRecord; }
 
 }  // namespace tarn
 
-#define TARN_HIDDEN __attribute__((visibility("hidden")))
 #define TARN_IMPL_version
-using namespace tarn;
-#include "entries.inc"
+#include "bindings.hpp"

@@ -4,12 +4,15 @@
 #include <cstdint>
 
 #include "call.hpp"
+#include "members.hpp"
 
 namespace tarn {
 
-// Runs the letters of `checks` left to right over every block and size of the call; the first
-// failing letter decides the status. Nothing of the operands is read: table entries are never
-// looked at, only the pointers, strides, shifts, sizes and count the caller passed.
-tarnStatus validate(const char* checks, const Call& c, int32_t esize);
+// Runs the letters of `checks` left to right over the blocks and sizes of the call; the first
+// failing letter decides the status. A letter followed by `s` looks only at the blocks the member
+// reads, by `d` only at those it writes. H applies the member's shape rule. Nothing of the
+// operands is read: table entries are never looked at, only the pointers, strides, shifts, sizes
+// and count the caller passed.
+tarnStatus validate(const char* checks, Rule rule, const Call& c, int32_t esize);
 
 }  // namespace tarn

@@ -5,7 +5,6 @@
 // when the operands overlap a later element reads what an earlier one wrote. No contiguous path,
 // no alignment test, no block copy: the two accessors say where each element lies.
 #include "move.hpp"
-#include "validate.hpp"
 
 namespace tarn::copy {
 
@@ -18,7 +17,5 @@ tarnStatus run(const Plan&, const Call& c) {
 
 }  // namespace tarn::copy
 
-#define TARN_HIDDEN __attribute__((visibility("hidden")))
 #define TARN_IMPL_copy
-using namespace tarn;
-#include "entries.inc"
+#include "bindings.hpp"

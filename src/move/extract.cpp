@@ -6,7 +6,6 @@
 // turn it round: table entry by table entry, every object of that entry, so each entry is read
 // once per call; only the order in which `dst` is written shows it.
 #include "move.hpp"
-#include "validate.hpp"
 
 namespace tarn::extract {
 
@@ -59,7 +58,5 @@ tarnStatus run(const Plan&, const Call& c) {
 
 }  // namespace tarn::extract
 
-#define TARN_HIDDEN __attribute__((visibility("hidden")))
 #define TARN_IMPL_extract
-using namespace tarn;
-#include "entries.inc"
+#include "bindings.hpp"

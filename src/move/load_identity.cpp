@@ -10,7 +10,6 @@
 // 16-byte row slot is never touched.
 #include "move.hpp"
 #include "simd.hpp"
-#include "validate.hpp"
 
 namespace tarn::load_identity {
 
@@ -110,7 +109,5 @@ tarnStatus run(const Plan&, const Call& c) {
 
 }  // namespace tarn::load_identity
 
-#define TARN_HIDDEN __attribute__((visibility("hidden")))
 #define TARN_IMPL_load_identity
-using namespace tarn;
-#include "entries.inc"
+#include "bindings.hpp"

@@ -12,7 +12,6 @@
 #include "move.hpp"
 #include "platform.hpp"
 #include "simd.hpp"
-#include "validate.hpp"
 
 namespace tarn::transpose {
 
@@ -261,7 +260,5 @@ tarnStatus run(const Plan&, const Call& c) {
 
 }  // namespace tarn::transpose
 
-#define TARN_HIDDEN __attribute__((visibility("hidden")))
 #define TARN_IMPL_transpose
-using namespace tarn;
-#include "entries.inc"
+#include "bindings.hpp"

@@ -10,6 +10,7 @@
 #include "dispatch.hpp"
 #include "platform.hpp"
 #include "start.hpp"
+#include "validate.hpp"
 
 namespace tarn {
 namespace {
@@ -80,6 +81,94 @@ TEST(ParallelWrapper, FailingSlicesReportOneStatusAndOthersFinish) {
   EXPECT_EQ(s, tarnStatusSingular);
   runWith(4, 8, 0, nullptr, &s);
   EXPECT_EQ(s, tarnStatusOk);
+}
+
+// A thread's slice of a call: each kind of block moves its own way from object `first` on.
+TEST(ParallelWrapper, SliceMovesEveryArrayOperandToItsFirstObject) {
+  alignas(16) static std::byte mem[4096];
+  static const void* table[16];
+  Call c{};
+  c.nop = 6;
+  c.count = 10;
+  auto blk = [&](int i, Slice s, int32_t obj, int32_t roi, int32_t perObj) {
+    c.op[i] = Blk{i == 1 ? static_cast<const void*>(table) : mem + 64 * i, obj, 0, 0, roi, 0, 0, perObj, 0, 0, false, s};
+  };
+  blk(0, Slice::ByObjStride, 36, 0, 0);   // LayoutS array, constant arrays of LayoutS and LayoutP
+  blk(1, Slice::ByTable, 0, 8, 0);        // LayoutL array: the table moves, the shift stays
+  blk(2, Slice::ByRoi, 12, 4, 0);         // LayoutP array: the shift moves, the table stays
+  blk(3, Slice::ByElems, 0, 0, 4 * 3);    // pivots of 3 rows per object
+  blk(4, Slice::Scratch, 0, 0, 0);        // the caller's buffer
+  blk(5, Slice::Shared, 0, 0, 0);         // a single operand
+  std::byte* scratch = mem + 2048;
+  const Call s = sliceCall(c, 3, 2, scratch);
+  EXPECT_EQ(s.count, 2);
+  EXPECT_EQ(s.op[0].ptr, mem + 0 + 3 * 36);
+  EXPECT_EQ(s.op[1].ptr, static_cast<const void*>(table + 3));
+  EXPECT_EQ(s.op[1].roi, 8);
+  EXPECT_EQ(s.op[2].ptr, c.op[2].ptr);
+  EXPECT_EQ(s.op[2].roi, 4 + 3 * 12);
+  EXPECT_EQ(s.op[3].ptr, mem + 192 + 3 * 12);
+  EXPECT_EQ(s.op[4].ptr, scratch);
+  EXPECT_EQ(s.op[5].ptr, c.op[5].ptr);
+  EXPECT_EQ(sliceCall(c, 3, 2, nullptr).op[4].ptr, c.op[4].ptr);  // serial: the caller's buffer
+}
+
+// The path follows the element strides; the wrapper runs from the path's threshold on.
+TEST(ParallelWrapper, DriverTakesThePathOfTheStridesAndItsThreshold) {
+  Call c{};
+  c.nop = 1;
+  c.count = 8;
+  c.op[0].has = kElem;
+  const Plan plan{"", 100, 50, true, false};
+  struct Case {
+    int32_t elem, est;
+    bool contig, region;
+  };
+  const Case cases[] = {{4, 99, true, false}, {4, 100, true, true}, {8, 49, false, false}, {8, 50, false, true}};
+  omp_set_num_threads(2);
+  for (const Case& k : cases) {
+    c.op[0].elem = k.elem;
+    c.est = k.est;
+    bool contig = false, region = false;
+    drive<float, Layout::S>(plan, c, [&]<bool Contig>(const Call&) {
+      contig = Contig;
+      region |= omp_in_parallel() != 0;
+      return tarnStatusOk;
+    });
+    EXPECT_EQ(contig, k.contig) << k.elem << " " << k.est;
+    EXPECT_EQ(region, k.region) << k.elem << " " << k.est;
+  }
+  omp_set_num_threads(1);
+}
+
+// A letter with a scope looks only at the blocks read (s) or written (d); H applies the rule.
+TEST(Validation, ScopedLettersAndShapeRules) {
+  Call c{};
+  c.nop = 2;
+  c.count = 1;
+  c.op[0] = Blk{&c, 4, 4, 4, 0, 3, 3, 0, kObj | kRoi, 'm', false, Slice::Shared};
+  c.op[1] = Blk{&c, 4, 4, 4, 0, 0, 0, 0, kObj | kRoi, 'm', true, Slice::Shared};
+  c.op[0].obj = 2;  // a bad source stride
+  c.op[1].roi = 2;  // a bad destination shift
+  EXPECT_EQ(validate("RsTsRdTd", Rule::None, c, 4), tarnStatusBadStride);
+  EXPECT_EQ(validate("RsRdTsTd", Rule::None, c, 4), tarnStatusBadRoiShift);
+  EXPECT_EQ(validate("RsTd", Rule::None, c, 4), tarnStatusOk);
+  // A source stored with 3 rows of 2 times a 3 by 3 one: read as stored its 2 columns meet 3
+  // rows; transposed, its 3 columns fit.
+  c.op[0].w = 2;
+  c.op[1] = Blk{&c, 4, 4, 4, 0, 3, 3, 0, 0, 'm', false, Slice::Shared};
+  const std::pair<char, char> letters[] = {{'m', 'm'}, {'t', 't'}, {'t', 'm'}, {'m', 't'}};
+  const tarnStatus want[] = {tarnStatusShapeMismatch, tarnStatusOk, tarnStatusOk, tarnStatusShapeMismatch};
+  for (int i = 0; i < 4; ++i) {
+    c.op[0].kind = letters[i].first;
+    c.op[1].kind = letters[i].second;
+    EXPECT_EQ(validate("H", Rule::Product, c, 4), want[i]) << letters[i].first << letters[i].second;
+  }
+  c.width = 4;
+  c.height = 4;
+  EXPECT_EQ(validate("H", Rule::Tall, c, 4), tarnStatusOk);
+  c.width = 5;
+  EXPECT_EQ(validate("H", Rule::Tall, c, 4), tarnStatusShapeMismatch);
 }
 
 TEST(Start, FeaturesFlagNeedsBothBits) {

@@ -13,6 +13,13 @@ const std::vector<MemberFn>& allMembers() {
   return kAll;
 }
 
+const std::vector<std::string>& fixedMembers() {
+  static const std::vector<std::string> kFixed = {
+#include "fixed.inc"
+  };
+  return kFixed;
+}
+
 const MemberFn& member(std::string_view name) {
   for (const auto& m : allMembers())
     if (name == m.name) return m;

@@ -10,30 +10,42 @@
 
 namespace tt {
 
-// Mirrors the library's call descriptor: one block per operand in argument order.
+// Mirrors the library's call descriptor: one block per pointer argument in argument order.
 struct ArgBlk {
   void* ptr = nullptr;
   int32_t obj = 0, row = 0, elem = 0, roi = 0;
+  int32_t w = 0, h = 0;  // the operand's own sizes, where the member has them
 };
 struct Args {
-  ArgBlk op[4];
-  int32_t width = 0, height = 0, len = 0, count = 0;
+  ArgBlk op[6];
+  int32_t width = 0, height = 0, len = 0, order = 0, count = 0;  // order: widthHeight
   double val[2] = {0, 0};
 };
 
-enum : uint8_t { kObj = 1, kRow = 2, kElem = 4, kRoi = 8 };  // fields an operand block carries
-enum : uint8_t { kWidth = 1, kHeight = 2, kLen = 4 };       // size arguments
+// Fields a block carries: strides, shift, its own width (or len) and height.
+enum : uint8_t { kObj = 1, kRow = 2, kElem = 4, kRoi = 8, kWidth = 16, kHeight = 32 };
+// Size arguments of the call as a whole.
+enum : uint8_t { kSizeWidth = 1, kSizeHeight = 2, kSizeLen = 4, kSizeOrder = 8 };
+
+struct BlkInfo {
+  uint8_t has;  // fields of the block
+  char kind;    // m t v c, 0 for a plain pointer
+  bool out;     // written by the member
+};
 
 struct MemberFn {
   const char* name;
   tarnStatus (*call)(const Args&);
   const char* checks;  // the member's check letters, as the library runs them
   bool serialOnly;
-  int nop;             // operand blocks, dst included
-  uint8_t has[4];      // fields of each block
+  int nop;             // pointer arguments, dst included
+  BlkInfo blk[6];
   uint8_t sizes;
   bool hasCount;
 };
+
+// The fixed-size members, which take no argument record.
+const std::vector<std::string>& fixedMembers();
 
 const std::vector<MemberFn>& allMembers();
 const MemberFn& member(std::string_view name);

@@ -5,12 +5,16 @@
 // OUTDIR/stubs.S (one frameless jump through its own slot per export), OUTDIR/slots.cpp
 // (EntrySlotTable in ascending byte order of names, and a compile-time check that every binding
 // has the type the header declares), OUTDIR/entries.inc (one binding per export, sections per
-// family), OUTDIR/invoke.inc (one typed call per export, for the tests) and OUTDIR/exports.txt.
+// family), OUTDIR/patterns.inc (the pattern vocabulary), OUTDIR/invoke.inc (one typed call per
+// export, for the tests), OUTDIR/fixed.inc (the fixed-size members' names) and
+// OUTDIR/exports.txt with OUTDIR/exports.map, the linker's list of global symbols.
 #include <algorithm>
+#include <cctype>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <map>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -21,31 +25,46 @@ using namespace tarn;
 
 namespace {
 
+[[noreturn]] void fail(const std::string& what) {
+  std::fprintf(stderr, "tarngen: %s\n", what.c_str());
+  std::exit(1);
+}
+
 struct Param {
   std::string ctype;  // C type in the header
   std::string name;
   std::string field;  // where it lives in Call (and in the tests' mirror of it)
 };
 
+// One pointer argument as the binding describes it to the frame.
+struct Block {
+  std::string name, prefix;  // pointer name; name of its strides and sizes
+  char kind = 0;             // m t v c, 0 for a plain pointer
+  bool out = false;
+  int has = 0;               // BlkField bits
+  std::string slice = "Shared";
+  std::string perObj;        // Slice::ByElems: bytes per object, as an expression over the sizes
+};
+
 struct Member {
   std::string name;
-  const Row* row;
-  bool f64;
-  Layout lay, lay2;  // lay2 only for Copy's destination
+  const Row* row = nullptr;
+  int rowIndex = -1;
+  const Fixed* fixed = nullptr;
+  bool f64 = false;
+  Layout lay = Layout::S, lay2 = Layout::S;  // lay2 only for Copy's destination
   std::vector<Param> params;
-  std::vector<int> blkMask;  // per op index: the fields the block carries (BlkField bits)
-  int sizeMask = 0;          // SizeField bits
+  std::vector<Block> blocks;
+  int sizeMask = 0;  // SizeField bits
   bool hasCount = false;
   std::string checks;
   bool serialOnly = false;
 };
 
-// Bits of call.hpp's BlkField and SizeField, by the Call field or size they stand for.
-constexpr const char* kBlkFields[] = {"obj", "row", "elem", "roi"};
-constexpr const char* kBlkBits[] = {"kObj", "kRow", "kElem", "kRoi"};
-constexpr const char* kSizeBits[] = {"kWidth", "kHeight", "kLen"};
+// Bits of call.hpp's BlkField and SizeField.
+constexpr const char* kBlkBits[] = {"kObj", "kRow", "kElem", "kRoi", "kWidth", "kHeight"};
+constexpr const char* kSizeBits[] = {"kSizeWidth", "kSizeHeight", "kSizeLen", "kSizeOrder"};
 
-// A mask as the expression the bindings spell it in, e.g. "kObj|kRow|kElem".
 std::string maskExpr(int mask, const char* const* names, int bits) {
   std::string s;
   for (int b = 0; b < bits; ++b)
@@ -54,7 +73,7 @@ std::string maskExpr(int mask, const char* const* names, int bits) {
 }
 
 struct Opnd {
-  char kind;   // m t v c
+  char kind;  // m t v c
   bool array;
 };
 
@@ -71,251 +90,349 @@ std::vector<Opnd> parsePattern(std::string_view p) {
   return out;
 }
 
+bool anyArrayIn(std::string_view p) {
+  for (auto o : parsePattern(p))
+    if (o.array) return true;
+  return false;
+}
+
+std::vector<std::string> words(std::string_view s) {
+  std::vector<std::string> out;
+  std::istringstream in{std::string(s)};
+  for (std::string w; in >> w;) out.push_back(w);
+  return out;
+}
+
 const char* layoutSuffix(Layout l) { return l == Layout::S ? "" : l == Layout::L ? "_L" : "_P"; }
 const char* layoutLetter(Layout l) { return l == Layout::S ? "S" : l == Layout::L ? "L" : "P"; }
 const char* layoutEnum(Layout l) { return l == Layout::S ? "Layout::S" : l == Layout::L ? "Layout::L" : "Layout::P"; }
 
+// ---- Argument lists --------------------------------------------------------------------------
+
 class Builder {
  public:
-  explicit Builder(Member& m) : m_(m), t_(m.f64 ? "double" : "float") {}
+  explicit Builder(Member& m) : m_(m), t_(m.f64 ? "double" : "float"), esize_(m.f64 ? "8" : "4") {}
 
-  // One operand block in the form its layout gives it.
-  void block(char kind, bool array, Layout lay, const std::string& name, bool write) {
-    const int i = nop_++;
-    const std::string op = "op[" + std::to_string(i) + "]";
-    const std::string cq = write ? "" : "const ";
-    int mask = 0;
-    auto add = [&](const std::string& ctype, const std::string& pname, const std::string& field) {
-      m_.params.push_back({ctype, pname, op + "." + field});
-      for (int bit = 0; bit < 4; ++bit)
-        if (field == kBlkFields[bit]) mask |= 1 << bit;
-    };
-    if (kind == 'c') {  // an array of constants; a single constant is passed by value
-      if (lay == Layout::L) {
-        add(cq + t_ + "* const*", name, "ptr");
-        add("int32_t", name + "RoiShift", "roi");
-      } else {
-        add(cq + t_ + "*", name, "ptr");
-        add("int32_t", name + "ObjStride", "obj");
-      }
-    } else {
-      const bool matrix = kind == 'm' || kind == 't';
-      const bool table = lay == Layout::P || (lay == Layout::L && array);
-      add(cq + t_ + (table ? "* const*" : "*"), name, "ptr");
-      if (lay == Layout::P) {
-        add("int32_t", name + "RoiShift", "roi");
-        if (array) add("int32_t", name + "ObjStride", "obj");
-      } else {
-        if (array && lay == Layout::L) add("int32_t", name + "RoiShift", "roi");
-        if (array && lay == Layout::S) add("int32_t", name + "ObjStride", "obj");
-        if (matrix) add("int32_t", name + "RowStride", "row");
-        add("int32_t", name + "ElemStride", "elem");
-      }
+  void token(const std::string& tok) {
+    const auto colon = tok.find(':');
+    if (colon == std::string::npos) return size(tok);
+    std::string name = tok.substr(0, colon), prefix = name;
+    const std::string slot = tok.substr(colon + 1);
+    if (const auto slash = name.find('/'); slash != std::string::npos) {
+      prefix = name.substr(slash + 1);
+      name = name.substr(0, slash);
     }
-    m_.blkMask.push_back(mask);
-  }
-
-  void plainPointer(const std::string& name) {
-    const int i = nop_++;
-    m_.params.push_back({t_ + "*", name, "op[" + std::to_string(i) + "].ptr"});
-    m_.blkMask.push_back(0);
-  }
-
-  void scalar(const std::string& name, int slot) {
-    m_.params.push_back({t_, name, "val[" + std::to_string(slot) + "]"});
-  }
-
-  void sizes(bool matrix) {
-    if (matrix) {
-      m_.params.push_back({"int32_t", "width", "width"});
-      m_.params.push_back({"int32_t", "height", "height"});
-      m_.sizeMask = 1 | 2;
-    } else {
-      m_.params.push_back({"int32_t", "len", "len"});
-      m_.sizeMask = 4;
+    const auto ops = parsePattern(m_.row->pattern);
+    const bool anyArray = anyArrayIn(m_.row->pattern);
+    if (slot.rfind("op", 0) == 0) {
+      const size_t i = size_t(std::atoi(slot.c_str() + 2));
+      if (i < 1 || i > ops.size()) fail(m_.name + ": no operand " + slot);
+      const Opnd o = ops[i - 1];
+      if (o.kind == 'c' && !o.array) return scalar(name);
+      return block(name, prefix, o.kind, o.array, m_.lay, false);
     }
-  }
-
-  void count() {
-    m_.params.push_back({"int32_t", "count", "count"});
-    m_.hasCount = true;
+    if (slot == "mat" || slot == "vec")
+      return block(name, prefix, slot == "mat" ? 'm' : 'v', anyArray, m_.row->forms == Forms::CopyPairs ? m_.lay2 : m_.lay, true);
+    if (slot == "vsrc") return block(name, prefix, 'v', anyArray, m_.lay, false);
+    if (slot == "value") return scalar(name);
+    const bool firstIsArray = !ops.empty() && ops[0].array;
+    if (slot == "scalar") return plain(name, t_ + "*", true, anyArray ? esize_ : "");
+    if (slot == "values") return plain(name, t_ + "*", true, anyArray ? esize_ + "*widthHeight" : "");
+    if (slot == "pivot") return plain(name, "int32_t*", true, firstIsArray ? "4*widthHeight" : "");
+    if (slot == "pivotin") return plain(name, "const int32_t*", false, firstIsArray ? "4*widthHeight" : "");
+    if (slot == "buffer") return plain(name, t_ + "*", true, "", "Scratch");
+    if (slot == "plain") return plain(name, t_ + "*", true, "");
+    if (slot == "size") return plain(name, "int32_t*", true, "");
+    fail(m_.name + ": unknown slot " + tok);
   }
 
  private:
+  int addBlock(Block b) {
+    m_.blocks.push_back(std::move(b));
+    return int(m_.blocks.size()) - 1;
+  }
+
+  // One operand block in the form its layout gives it.
+  void block(const std::string& name, const std::string& prefix, char kind, bool array, Layout lay, bool write) {
+    if (lay == Layout::L && !array) lay = Layout::S;  // a single operand of a LayoutL member is strided
+    Block b{name, prefix, kind, write};
+    const int i = int(m_.blocks.size());
+    const std::string op = "op[" + std::to_string(i) + "]";
+    const std::string cq = write ? "" : "const ";
+    auto add = [&](const std::string& ctype, const std::string& pname, const char* field, int bit) {
+      m_.params.push_back({ctype, pname, op + "." + field});
+      b.has |= bit;
+    };
+    if (kind == 'c') {  // an array of constants; a single constant is passed by value
+      if (lay == Layout::L) {
+        add(cq + t_ + "* const*", name, "ptr", 0);
+        add("int32_t", prefix + "RoiShift", "roi", 8);
+        b.slice = "ByTable";
+      } else {
+        add(cq + t_ + "*", name, "ptr", 0);
+        add("int32_t", prefix + "ObjStride", "obj", 1);
+        b.slice = "ByObjStride";
+      }
+    } else {
+      const bool matrix = kind == 'm' || kind == 't';
+      const bool table = lay == Layout::P || lay == Layout::L;
+      add(cq + t_ + (table ? "* const*" : "*"), name, "ptr", 0);
+      if (lay == Layout::P) {
+        add("int32_t", prefix + "RoiShift", "roi", 8);
+        if (array) add("int32_t", prefix + "ObjStride", "obj", 1);
+        if (array) b.slice = "ByRoi";
+      } else {
+        if (lay == Layout::L) add("int32_t", prefix + "RoiShift", "roi", 8);
+        if (array && lay == Layout::S) add("int32_t", prefix + "ObjStride", "obj", 1);
+        if (matrix) add("int32_t", prefix + "RowStride", "row", 2);
+        add("int32_t", prefix + "ElemStride", "elem", 4);
+        if (array) b.slice = lay == Layout::S ? "ByObjStride" : "ByTable";
+      }
+    }
+    addBlock(std::move(b));
+  }
+
+  void plain(const std::string& name, const std::string& ctype, bool write, const std::string& perObj,
+             const char* slice = nullptr) {
+    const int i = int(m_.blocks.size());
+    m_.params.push_back({ctype, name, "op[" + std::to_string(i) + "].ptr"});
+    Block b{name, name, 0, write};
+    b.perObj = perObj;
+    b.slice = slice ? slice : perObj.empty() ? "Shared" : "ByElems";
+    addBlock(std::move(b));
+  }
+
+  void scalar(const std::string& name) {
+    if (scalars_ == 2) fail(m_.name + ": more than two scalars");
+    m_.params.push_back({t_, name, "val[" + std::to_string(scalars_++) + "]"});
+  }
+
+  void size(const std::string& s) {
+    struct Global {
+      const char* name;
+      const char* field;
+      int bit;
+    };
+    const Global globals[] = {{"width", "width", 1}, {"height", "height", 2}, {"len", "len", 4}, {"widthHeight", "order", 8}};
+    if (s == "count") {
+      if (!anyArrayIn(m_.row->pattern)) return;  // single-object members have no count
+      m_.params.push_back({"int32_t", "count", "count"});
+      m_.hasCount = true;
+      return;
+    }
+    for (const Global& g : globals)
+      if (s == g.name) {
+        m_.params.push_back({"int32_t", s, g.field});
+        m_.sizeMask |= g.bit;
+        return;
+      }
+    for (size_t i = 0; i < m_.blocks.size(); ++i) {
+      Block& b = m_.blocks[i];
+      const std::string op = "op[" + std::to_string(i) + "].";
+      if (s == b.prefix + "Width" || s == b.prefix + "Len") {
+        m_.params.push_back({"int32_t", s, op + "w"});
+        b.has |= 16;
+        return;
+      }
+      if (s == b.prefix + "Height") {
+        m_.params.push_back({"int32_t", s, op + "h"});
+        b.has |= 32;
+        return;
+      }
+    }
+    fail(m_.name + ": unknown argument " + s);
+  }
+
   Member& m_;
-  std::string t_;
-  int nop_ = 0;
+  std::string t_, esize_;
+  int scalars_ = 0;
 };
 
 void buildParams(Member& m) {
+  if (m.row->forms == Forms::Version) return;
   Builder b(m);
-  const Row& r = *m.row;
-  const auto ops = parsePattern(r.pattern);
-  bool anyArray = false, anyMatrix = false;
-  for (auto o : ops) {
-    anyArray |= o.array;
-    anyMatrix |= o.kind == 'm' || o.kind == 't';
-  }
-  switch (r.sig) {
-    case Sig::Version:
-      return;
-    case Sig::Operands: {
-      int nonConst = 0, scalars = 0;
-      for (auto o : ops) nonConst += o.kind != 'c';
-      int k = 0;
-      for (auto o : ops)  // vectors and matrices first, in pattern order
-        if (o.kind != 'c')
-          b.block(o.kind, o.array, m.lay, nonConst == 1 ? "src" : "src" + std::to_string(++k), false);
-      for (auto o : ops) {  // then the constant
-        if (o.kind != 'c') continue;
-        if (o.array) b.block('c', true, m.lay, "val", false);
-        else b.scalar("val", scalars++);
-      }
-      b.block(anyMatrix ? 'm' : 'v', anyArray, m.lay, "dst", true);
-      b.sizes(anyMatrix);
-      if (anyArray) b.count();
-      return;
-    }
-    case Sig::Scaled1:
-    case Sig::Scaled2: {
-      const bool two = r.sig == Sig::Scaled2;
-      b.block('v', ops[0].array, m.lay, "src1", false);
-      b.scalar(two ? "val1" : "val", 0);
-      b.block('v', ops[1].array, m.lay, "src2", false);
-      if (two) b.scalar("val2", 1);
-      b.block('v', anyArray, m.lay, "dst", true);
-      b.sizes(false);
-      if (anyArray) b.count();  // the single-object vv has none
-      return;
-    }
-    case Sig::Copy:
-      b.block(ops[0].kind, true, m.lay, "src", false);
-      b.block(ops[0].kind, true, m.lay2, "dst", true);
-      b.sizes(anyMatrix);
-      b.count();
-      return;
-    case Sig::Extract:
-      b.block(ops[0].kind, anyArray, m.lay, "src", false);
-      b.plainPointer("dst");
-      b.sizes(anyMatrix);
-      if (anyArray) b.count();
-      return;
-    case Sig::Fill:
-      b.block('m', true, m.lay, "dst", true);
-      b.sizes(true);
-      b.count();
-      return;
-    case Sig::Transpose:
-      b.block('m', anyArray, m.lay, "src", false);
-      b.sizes(true);
-      b.block('m', anyArray, m.lay, "dst", true);
-      if (anyArray) b.count();
-      return;
-  }
+  for (const auto& tok : words(m.row->args)) b.token(tok);
+  if (m.blocks.size() > size_t(kMaxBlocks)) fail(m.name + ": too many pointer arguments");
 }
+
+// ---- Expressions over the size arguments -------------------------------------------------------
+
+// The C++ for an estimate or a size expression: every size a uint32_t, so the arithmetic wraps
+// as 32-bit integers do, and the result taken back as signed.
+std::string sizeExpr(const Member& m, const std::string& text) {
+  std::map<std::string, std::string> fields = {{"esize", m.f64 ? "8" : "4"}};
+  for (const auto& p : m.params)
+    if (p.ctype == "int32_t") fields[p.name] = "c." + p.field;
+  std::string out;
+  int depth = 0;
+  for (size_t i = 0; i < text.size();) {
+    const char ch = text[i];
+    if (std::isspace(static_cast<unsigned char>(ch))) {
+      ++i;
+    } else if (std::isalpha(static_cast<unsigned char>(ch))) {
+      size_t j = i;
+      while (j < text.size() && std::isalnum(static_cast<unsigned char>(text[j]))) ++j;
+      const std::string id = text.substr(i, j - i);
+      const auto it = fields.find(id);
+      if (it == fields.end() || id.find("Stride") != std::string::npos || id.find("Shift") != std::string::npos)
+        fail(m.name + ": the expression \"" + text + "\" names " + id + ", which is not a size of this member");
+      out += "uint32_t(" + it->second + ")";
+      i = j;
+    } else if (std::isdigit(static_cast<unsigned char>(ch))) {
+      size_t j = i;
+      while (j < text.size() && std::isdigit(static_cast<unsigned char>(text[j]))) ++j;
+      out += text.substr(i, j - i) + "u";
+      i = j;
+    } else if (ch == '+' || ch == '*' || ch == '(' || ch == ')') {
+      depth += ch == '(' ? 1 : ch == ')' ? -1 : 0;
+      if (depth < 0) fail(m.name + ": unbalanced \"" + text + "\"");
+      out += std::string(" ") + ch + " ";
+      ++i;
+    } else {
+      fail(m.name + ": unexpected '" + std::string(1, ch) + "' in \"" + text + "\"");
+    }
+  }
+  if (depth != 0) fail(m.name + ": unbalanced \"" + text + "\"");
+  return "int32_t(" + out + ")";
+}
+
+// Elements touched by a product: every source operand, an array's count times, and the result
+// count times. A stored operand has its width times height elements, a vector its length, an
+// array of constants one per object. The result has the rows of the left factor as seen and the
+// columns of the right one.
+std::string touched(const Member& m) {
+  std::string e;
+  const Block *left = nullptr, *right = nullptr;
+  for (size_t i = 0; i < m.blocks.size(); ++i) {
+    const Block& b = m.blocks[i];
+    if (b.out || b.kind == 0) continue;
+    const bool array = b.slice != "Shared";
+    const std::string elems = b.kind == 'c' ? "1" : b.kind == 'v' ? b.prefix + "Len" : b.prefix + "Width*" + b.prefix + "Height";
+    e += (e.empty() ? "" : "+") + elems + (array ? "*count" : "");
+    if (!left) left = &b;
+    else if (!right) right = &b;
+  }
+  if (!left || !right) fail(m.name + ": touched needs two factors");
+  const std::string rows = left->kind == 't' ? left->prefix + "Width" : left->prefix + "Height";
+  const std::string cols = right->kind == 'v' ? "1" : right->kind == 't' ? right->prefix + "Height" : right->prefix + "Width";
+  return e + "+" + rows + "*" + cols + (m.hasCount ? "*count" : "");
+}
+
+// ---- Expansion -------------------------------------------------------------------------------
+
+std::string familyOfName(const std::string& name) { return name.substr(4, name.find('_') - 4); }
 
 std::vector<Member> expand() {
   std::vector<Member> out;
+  int index = 0;
   for (const Row& r : kRows) {
-    if (r.sig == Sig::Version) {
-      Member m{"tarn" + std::string(r.family), &r, false, Layout::S, Layout::S};
+    const int rowIndex = index++;
+    if (r.forms == Forms::Version) {
+      Member m;
+      m.name = "tarn" + std::string(r.family);
+      m.row = &r;
+      m.rowIndex = rowIndex;
       out.push_back(m);
       continue;
     }
-    bool anyArray = false;
-    for (auto o : parsePattern(r.pattern)) anyArray |= o.array;
     std::vector<std::pair<Layout, Layout>> lays;
-    if (r.sig == Sig::Copy) {
+    std::vector<bool> types = {false, true};
+    if (r.forms == Forms::CopyPairs) {
       for (Layout a : {Layout::S, Layout::L, Layout::P})
         for (Layout b : {Layout::S, Layout::L, Layout::P}) lays.push_back({a, b});
+    } else if (r.forms == Forms::Float32S || r.pattern.empty()) {
+      lays.push_back({Layout::S, Layout::S});
+      if (r.forms == Forms::Float32S) types = {false};
     } else {
       lays.push_back({Layout::S, Layout::S});
-      if (anyArray) lays.push_back({Layout::L, Layout::L});
+      if (anyArrayIn(r.pattern)) lays.push_back({Layout::L, Layout::L});
       lays.push_back({Layout::P, Layout::P});
     }
-    for (bool f64 : {false, true})
+    for (bool f64 : types)
       for (auto [a, b] : lays) {
-        Member m{};
+        Member m;
         m.row = &r;
+        m.rowIndex = rowIndex;
         m.f64 = f64;
         m.lay = a;
         m.lay2 = b;
-        m.name = "tarn" + std::string(r.family) + "_" + std::string(r.pattern) + (f64 ? "_64f" : "_32f");
-        if (r.sig == Sig::Copy) m.name += std::string("_") + layoutLetter(a) + layoutLetter(b);
+        m.name = "tarn" + std::string(r.family) + (r.pattern.empty() ? "" : "_" + std::string(r.pattern)) +
+                 (f64 ? "_64f" : "_32f");
+        if (r.forms == Forms::CopyPairs) m.name += std::string("_") + layoutLetter(a) + layoutLetter(b);
         else m.name += layoutSuffix(a);
         m.checks = std::string(a == Layout::S ? r.checksS : a == Layout::L ? r.checksL : r.checksP);
         out.push_back(m);
       }
   }
+  for (const Fixed& f : kFixed) {
+    Member m;
+    m.name = std::string(f.name);
+    m.fixed = &f;
+    out.push_back(m);
+  }
   for (const Override& o : kOverrides) {
     auto it = std::find_if(out.begin(), out.end(), [&](const Member& m) { return m.name == o.name; });
-    if (it == out.end()) {
-      std::fprintf(stderr, "tarngen: override for unknown member %.*s\n", int(o.name.size()), o.name.data());
-      std::exit(1);
-    }
+    if (it == out.end()) fail("override for unknown member " + std::string(o.name));
     if (!o.checks.empty()) it->checks = std::string(o.checks);
     it->serialOnly = o.serialOnly;
   }
   for (auto& m : out) {
-    // Letters the validator knows; H joins with the first family that has a shape rule.
-    if (m.checks.find_first_not_of("NCZTERO") != std::string::npos) {
-      std::fprintf(stderr, "tarngen: %s has an unknown check letter in \"%s\"\n", m.name.c_str(), m.checks.c_str());
-      std::exit(1);
+    if (m.fixed) continue;
+    for (size_t i = 0; i < m.checks.size(); ++i) {
+      const char ch = m.checks[i];
+      const bool scope = (ch == 's' || ch == 'd') && i > 0 && std::isupper(static_cast<unsigned char>(m.checks[i - 1]));
+      if (std::string_view("NCZHTEOR").find(ch) == std::string_view::npos && !scope)
+        fail(m.name + " has an unknown check letter in \"" + m.checks + "\"");
     }
+    if ((m.checks.find('H') != std::string::npos) != (m.row->rule != Rule::None))
+      fail(m.name + ": a shape rule and the letter H go together");
     buildParams(m);
   }
   std::sort(out.begin(), out.end(), [](const Member& a, const Member& b) { return a.name < b.name; });
   for (size_t i = 1; i < out.size(); ++i)
-    if (out[i].name == out[i - 1].name) {
-      std::fprintf(stderr, "tarngen: duplicate member %s\n", out[i].name.c_str());
-      std::exit(1);
-    }
+    if (out[i].name == out[i - 1].name) fail("duplicate member " + out[i].name);
   return out;
 }
 
+// ---- Emitters --------------------------------------------------------------------------------
+
 std::string paramList(const Member& m) {
+  if (m.fixed) return std::string(m.fixed->params);
   if (m.params.empty()) return "void";
   std::string s;
-  for (size_t i = 0; i < m.params.size(); ++i)
-    s += (i ? ", " : "") + m.params[i].ctype + " " + m.params[i].name;
+  for (size_t i = 0; i < m.params.size(); ++i) s += (i ? ", " : "") + m.params[i].ctype + " " + m.params[i].name;
   return s;
 }
 
-std::string returnType(const Member& m) {
-  return m.row->sig == Sig::Version ? "const tarnLibraryVersion*" : "tarnStatus";
+// The parameter names of a fixed member's C list, to forward them.
+std::string forwardedNames(const Member& m) {
+  std::string s;
+  std::istringstream in{std::string(m.fixed->params)};
+  for (std::string piece; std::getline(in, piece, ',');) {
+    size_t end = piece.find_last_not_of(" ");
+    size_t start = end;
+    while (start > 0 && (std::isalnum(static_cast<unsigned char>(piece[start - 1])) || piece[start - 1] == '_')) --start;
+    s += (s.empty() ? "" : ", ") + piece.substr(start, end - start + 1);
+  }
+  return s;
 }
+
+bool isVersion(const Member& m) { return m.row && m.row->forms == Forms::Version; }
+
+std::string returnType(const Member& m) { return isVersion(m) ? "const tarnLibraryVersion*" : "tarnStatus"; }
 
 std::string entryName(const Member& m) { return "ownEntry_" + m.name; }
 
-std::string_view docOf(const Member& m) {
+std::string_view docOf(const std::string& family) {
   for (const auto& d : kDocs)
-    if (d.family == m.row->family) return d.doc;
-  std::fprintf(stderr, "tarngen: no doc line for family %.*s\n", int(m.row->family.size()),
-               m.row->family.data());
-  std::exit(1);
-}
-
-const char* estName(Est e) {
-  switch (e) {
-    case Est::None: return "Est::None";
-    case Est::TwoCountPlusOneWH: return "Est::TwoCountPlusOneWH";
-    case Est::ThreeCountWH: return "Est::ThreeCountWH";
-    case Est::TwoLenCountPlusLen: return "Est::TwoLenCountPlusLen";
-    case Est::TwoLenCountPlusCount: return "Est::TwoLenCountPlusCount";
-    case Est::ThreeLenCount: return "Est::ThreeLenCount";
-    case Est::LenCountPlusLenPlusCount: return "Est::LenCountPlusLenPlusCount";
-    case Est::TwoCount: return "Est::TwoCount";
-  }
-  return "";
+    if (d.family == family) return d.doc;
+  fail("no doc line for family " + family);
 }
 
 void writeFile(const std::string& path, const std::string& text) {
   std::ofstream f(path, std::ios::binary);
   f << text;
-  if (!f) {
-    std::fprintf(stderr, "tarngen: cannot write %s\n", path.c_str());
-    std::exit(1);
-  }
+  if (!f) fail("cannot write " + path);
 }
 
 std::string header(const std::vector<Member>& ms) {
@@ -365,11 +482,12 @@ typedef struct tarnLibraryVersion {
   const char* buildDate; /* date of the build */
 } tarnLibraryVersion;
 )";
-  std::string_view family;
+  std::string family;
   for (const auto& m : ms) {
-    if (m.row->family != family) {
-      family = m.row->family;
-      h << "\n/** " << docOf(m) << " */\n";
+    const std::string f = isVersion(m) ? std::string(m.row->family) : familyOfName(m.name);
+    if (f != family) {
+      family = f;
+      h << "\n/** " << docOf(f) << " */\n";
     }
     h << returnType(m) << " " << m.name << "(" << paramList(m) << ");\n";
   }
@@ -413,41 +531,65 @@ std::string slots(const std::vector<Member>& ms) {
   return s.str();
 }
 
+void binding(std::ostream& s, const Member& m, const std::string& impl) {
+  s << "extern \"C\" TARN_HIDDEN " << returnType(m) << " " << entryName(m) << "(" << paramList(m) << ") {\n";
+  if (m.fixed) {
+    s << "  return " << impl << "::" << m.fixed->fn << "(" << forwardedNames(m) << ");\n}\n";
+    return;
+  }
+  if (isVersion(m)) {
+    s << "  return " << impl << "::run();\n}\n";
+    return;
+  }
+  const Row& r = *m.row;
+  s << "  static constexpr Plan kPlan = planOf(kRows[" << m.rowIndex << "], " << (m.f64 ? "true" : "false") << ", "
+    << layoutEnum(m.lay) << ", \"" << m.checks << "\", \"" << m.name << "\");\n";
+  s << "  Call c;\n";
+  for (size_t i = 0; i < m.blocks.size(); ++i) {
+    const Block& b = m.blocks[i];
+    const std::string op = "  c.op[" + std::to_string(i) + "].";
+    s << op << "has = " << maskExpr(b.has, kBlkBits, 6) << ";\n"
+      << op << "kind = " << (b.kind ? "'" + std::string(1, b.kind) + "'" : std::string("0")) << ";\n"
+      << op << "out = " << (b.out ? "true" : "false") << ";\n"
+      << op << "slice = Slice::" << b.slice << ";\n";
+  }
+  for (const auto& p : m.params) s << "  c." << p.field << " = " << p.name << ";\n";
+  s << "  c.nop = " << m.blocks.size() << ";\n  c.sizes = " << maskExpr(m.sizeMask, kSizeBits, 4) << ";\n"
+    << "  c.hasCount = " << (m.hasCount ? "true" : "false") << ";\n";
+  if (!m.hasCount) s << "  c.count = 1;\n";
+  s << "  if (const tarnStatus s = validate(kPlan.checks, Rule::" << (r.rule == Rule::Product ? "Product" : r.rule == Rule::Tall ? "Tall" : "None")
+    << ", c, " << (m.f64 ? 8 : 4) << ")) return s;\n";
+  const std::string est = r.est == "touched" ? touched(m) : std::string(r.est);
+  s << "  c.est = " << (est.empty() ? "0" : sizeExpr(m, est)) << ";\n";
+  s << "  c.scratch = " << (r.scratch.empty() ? "0" : sizeExpr(m, std::string(r.scratch))) << ";\n";
+  for (size_t i = 0; i < m.blocks.size(); ++i)
+    if (!m.blocks[i].perObj.empty()) s << "  c.op[" << i << "].perObj = " << sizeExpr(m, m.blocks[i].perObj) << ";\n";
+  s << "  return " << impl << "::run<Pat::" << (r.pattern.empty() ? "none" : std::string(r.pattern)) << ", "
+    << (m.f64 ? "double" : "float") << ", " << layoutEnum(m.lay);
+  if (r.forms == Forms::CopyPairs) s << ", " << layoutEnum(m.lay2);
+  s << ">(kPlan, c);\n}\n";
+}
+
 std::string entries(const std::vector<Member>& ms) {
   std::ostringstream s;
   s << "// Generated by tarngen: one binding per export. A family's source defines TARN_IMPL_<impl>\n"
        "// before including this file and gets the bindings of its own rows.\n";
   std::map<std::string, std::vector<const Member*>> byImpl;
-  for (const auto& m : ms) byImpl[std::string(m.row->impl)].push_back(&m);
+  for (const auto& m : ms) byImpl[std::string(m.fixed ? m.fixed->impl : m.row->impl)].push_back(&m);
   for (const auto& [impl, list] : byImpl) {
     s << "\n#ifdef TARN_IMPL_" << impl << "\n";
-    for (const Member* mp : list) {
-      const Member& m = *mp;
-      s << "extern \"C\" TARN_HIDDEN " << returnType(m) << " " << entryName(m) << "(" << paramList(m) << ") {\n";
-      if (m.row->sig == Sig::Version) {
-        s << "  return " << impl << "::run();\n}\n";
-        continue;
-      }
-      const Thr& t = m.f64 ? m.row->t64 : m.row->t32;
-      const int32_t c = m.lay == Layout::S ? t.sC : m.lay == Layout::L ? t.lC : t.p;
-      const int32_t g = m.lay == Layout::S ? t.sG : m.lay == Layout::L ? t.lG : t.p;
-      const bool parallel = m.row->est != Est::None && !m.serialOnly;
-      s << "  static constexpr Plan kPlan{\"" << m.checks << "\", " << estName(m.row->est) << ", " << c << ", " << g
-        << ", " << (parallel ? "true" : "false") << "};\n";
-      s << "  Call c{};\n";
-      for (const auto& p : m.params) s << "  c." << p.field << " = " << p.name << ";\n";
-      for (size_t i = 0; i < m.blkMask.size(); ++i)
-        s << "  c.op[" << i << "].has = " << maskExpr(m.blkMask[i], kBlkBits, 4) << ";\n";
-      s << "  c.nop = " << m.blkMask.size() << ";\n  c.sizes = " << maskExpr(m.sizeMask, kSizeBits, 3) << ";\n";
-      if (m.hasCount) s << "  c.hasCount = true;\n";
-      s << "  if (const tarnStatus s = validate(kPlan.checks, c, " << (m.f64 ? 8 : 4) << ")) return s;\n";
-      s << "  return " << impl << "::run<Pat::" << (m.row->pattern.empty() ? "none" : std::string(m.row->pattern))
-        << ", " << (m.f64 ? "double" : "float") << ", " << layoutEnum(m.lay);
-      if (m.row->sig == Sig::Copy) s << ", " << layoutEnum(m.lay2);
-      s << ">(kPlan, c);\n}\n";
-    }
+    for (const Member* mp : list) binding(s, *mp, impl);
     s << "#endif\n";
   }
+  return s.str();
+}
+
+std::string patterns() {
+  std::set<std::string> ps;
+  for (const Row& r : kRows) ps.insert(std::string(r.pattern));
+  std::ostringstream s;
+  s << "// Generated by tarngen: every pattern of the member table.\n";
+  for (const auto& p : ps) s << "TARN_PATTERN(" << (p.empty() ? "none" : p) << ", \"" << p << "\")\n";
   return s.str();
 }
 
@@ -455,16 +597,28 @@ std::string invokers(const std::vector<Member>& ms) {
   std::ostringstream s;
   s << "// Generated by tarngen: a typed call of every export from the tests' argument record.\n";
   for (const auto& m : ms) {
-    if (m.row->sig == Sig::Version) continue;
+    if (isVersion(m) || m.fixed) continue;
     s << "{\"" << m.name << "\", [](const Args& a) -> tarnStatus { return " << m.name << "(";
     for (size_t i = 0; i < m.params.size(); ++i) {
       const auto& p = m.params[i];
       s << (i ? ", " : "") << "static_cast<" << p.ctype << ">(a." << p.field << ")";
     }
-    s << "); }, \"" << m.checks << "\", " << (m.serialOnly ? "true" : "false") << ", " << m.blkMask.size() << ", {";
-    for (size_t i = 0; i < m.blkMask.size(); ++i) s << (i ? ", " : "") << m.blkMask[i];
+    s << "); }, \"" << m.checks << "\", " << (m.serialOnly ? "true" : "false") << ", " << m.blocks.size() << ", {";
+    for (size_t i = 0; i < m.blocks.size(); ++i) {
+      const Block& b = m.blocks[i];
+      s << (i ? ", " : "") << "{" << b.has << ", " << (b.kind ? "'" + std::string(1, b.kind) + "'" : std::string("0"))
+        << ", " << (b.out ? "true" : "false") << "}";
+    }
     s << "}, " << m.sizeMask << ", " << (m.hasCount ? "true" : "false") << "},\n";
   }
+  return s.str();
+}
+
+std::string fixedNames(const std::vector<Member>& ms) {
+  std::ostringstream s;
+  s << "// Generated by tarngen: the fixed-size members, outside the operand model.\n";
+  for (const auto& m : ms)
+    if (m.fixed) s << "\"" << m.name << "\",\n";
   return s.str();
 }
 
@@ -481,9 +635,16 @@ int main(int argc, char** argv) {
   writeFile(dir + "/stubs.S", stubs(ms));
   writeFile(dir + "/slots.cpp", slots(ms));
   writeFile(dir + "/entries.inc", entries(ms));
+  writeFile(dir + "/patterns.inc", patterns());
   writeFile(dir + "/invoke.inc", invokers(ms));
+  writeFile(dir + "/fixed.inc", fixedNames(ms));
   std::string names;
   for (const auto& m : ms) names += m.name + "\n";
   writeFile(dir + "/exports.txt", names);
+  // Only the exports are global in the shared object, whatever else the compiler or the
+  // runtime's pragmas make global (the critical section's lock, for one).
+  std::string map = "{\n  global:\n";
+  for (const auto& m : ms) map += "    " + m.name + ";\n";
+  writeFile(dir + "/exports.map", map + "  local: *;\n};\n");
   return 0;
 }
