@@ -174,34 +174,6 @@ void rowLoop(const Op& op, T* d, const SA& a, const SB& b, int32_t n) {
   for (; i < n; ++i) d[i] = op(elemAt(a, i), elemAt(b, i));
 }
 
-// ---- Operands from the call ----------------------------------------------------------------
-
-template <class T, Layout L, bool Contig, Operand K, bool Write = false>
-auto operandOf(const Blk& blk, int32_t sw, double val) {
-  using E = std::conditional_t<Write, T, const T>;
-  if constexpr (K.kind == 'c') {
-    if constexpr (!K.array) return One<ValueObj<T>>{{T(val)}};
-    else if constexpr (L == Layout::L) return ConstTable<const T>{static_cast<const T* const*>(blk.ptr), blk.roi};
-    else return ConstArr<const T>{static_cast<const T*>(blk.ptr), blk.obj};
-  } else {
-    auto plain = [&] {
-      if constexpr (L == Layout::P) {
-        auto tbl = static_cast<E* const*>(const_cast<void*>(blk.ptr));
-        if constexpr (K.array) return ArrP<E>{tbl, blk.roi, blk.obj, sw};
-        else return One<TableObj<E>>{{tbl, blk.roi, sw}};
-      } else if constexpr (!K.array) {
-        return One<StridedObj<E, Contig>>{{static_cast<E*>(const_cast<void*>(blk.ptr)), blk.row, blk.elem}};
-      } else if constexpr (L == Layout::S) {
-        return ArrS<E, Contig>{static_cast<E*>(const_cast<void*>(blk.ptr)), blk.obj, blk.row, blk.elem};
-      } else {
-        return ArrL<E, Contig>{static_cast<E* const*>(const_cast<void*>(blk.ptr)), blk.roi, blk.row, blk.elem};
-      }
-    };
-    if constexpr (K.kind == 't') return Trans<decltype(plain())>{plain()};
-    else return plain();
-  }
-}
-
 inline bool overlaps(const void* a, const void* b, int32_t bytes) {
   const auto x = reinterpret_cast<uintptr_t>(a), y = reinterpret_cast<uintptr_t>(b);
   return x < y + uint32_t(bytes) && y < x + uint32_t(bytes);

@@ -10,6 +10,8 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "call.hpp"
+
 namespace tarn {
 
 // a * b bytes, formed in 32 bits and sign-extended.
@@ -219,6 +221,43 @@ template <int N, class A>
 auto frozen(const Trans<A>& t) {
   auto inner = frozen<N>(t.a);
   return Trans<decltype(inner)>{inner};
+}
+
+// ---- Accessors from the call ----------------------------------------------------------------
+
+// The accessor of a block of operand kind K (kind letter and array flag of the pattern) in layout
+// L. `sw` is the stored width, which indexes LayoutP tables; `val` is the scalar of a constant
+// passed by value. A source is read through `const T`, a destination (Write) through T.
+template <class T, Layout L, bool Contig, Operand K, bool Write = false>
+auto operandOf(const Blk& blk, int32_t sw, double val = 0) {
+  using E = std::conditional_t<Write, T, const T>;
+  if constexpr (K.kind == 'c') {
+    if constexpr (!K.array) return One<ValueObj<T>>{{T(val)}};
+    else if constexpr (L == Layout::L) return ConstTable<const T>{static_cast<const T* const*>(blk.ptr), blk.roi};
+    else return ConstArr<const T>{static_cast<const T*>(blk.ptr), blk.obj};
+  } else {
+    auto plain = [&] {
+      if constexpr (L == Layout::P) {
+        auto tbl = static_cast<E* const*>(const_cast<void*>(blk.ptr));
+        if constexpr (K.array) return ArrP<E>{tbl, blk.roi, blk.obj, sw};
+        else return One<TableObj<E>>{{tbl, blk.roi, sw}};
+      } else if constexpr (!K.array) {
+        return One<StridedObj<E, Contig>>{{static_cast<E*>(const_cast<void*>(blk.ptr)), blk.row, blk.elem}};
+      } else if constexpr (L == Layout::S) {
+        return ArrS<E, Contig>{static_cast<E*>(const_cast<void*>(blk.ptr)), blk.obj, blk.row, blk.elem};
+      } else {
+        return ArrL<E, Contig>{static_cast<E* const*>(const_cast<void*>(blk.ptr)), blk.roi, blk.row, blk.elem};
+      }
+    };
+    if constexpr (K.kind == 't') return Trans<decltype(plain())>{plain()};
+    else return plain();
+  }
+}
+
+// A plain pointer argument (scalar results, eigenvalues, pivots, a work buffer) as E*.
+template <class E>
+E* plainOf(const Blk& blk) {
+  return static_cast<E*>(const_cast<void*>(blk.ptr));
 }
 
 }  // namespace tarn

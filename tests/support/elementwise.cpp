@@ -1,7 +1,8 @@
 #include "elementwise.hpp"
 
-#include <memory>
 #include <sstream>
+
+#include "harness.hpp"
 
 namespace tt {
 
@@ -35,56 +36,44 @@ EwRun runElementwise(const MemberFn& m, const EwShape& shape, int count, const S
     matrix |= o.kind == 'm' || o.kind == 't';
   }
   const int h = matrix ? shape.h : 1, w = shape.w, n = anyArray ? count : 1;
-  std::mt19937 rng(seed);
 
-  // Operands in argument order: matrices and vectors first, then an array of constants.
-  Args args;
-  std::vector<std::unique_ptr<Operand>> srcs(ops.size());
-  int slot = 0;
-  auto build = [&](size_t i) {
-    const PatOperand o = ops[i];
-    // The single operand of a LayoutL member is strided like LayoutS; an array of constants is
-    // plain strided data in LayoutP too.
-    char lay = nm.layout;
-    if ((lay == 'L' && !o.array) || (lay == 'P' && o.kind == 'c')) lay = 'S';
-    const int rows = o.kind == 'c' ? 1 : o.kind == 't' ? w : h;
-    const int cols = o.kind == 'c' ? 1 : o.kind == 't' ? h : w;
-    srcs[i] = std::make_unique<Operand>(lay, nm.esize, rows, cols, o.array ? count : 1, o.array, st);
-    srcs[i]->fillRandom(rng, i == 0);  // exceptional values in one operand only
-    args.op[slot++] = srcs[i]->blk();
-  };
+  // Argument blocks: the pattern's matrices and vectors, then an array of constants, then dst;
+  // a single constant is a value.
+  std::vector<int> blockOf(ops.size(), -1);
+  int blocks = 0;
   for (size_t i = 0; i < ops.size(); ++i)
-    if (ops[i].kind != 'c') build(i);
+    if (ops[i].kind != 'c') blockOf[i] = blocks++;
   for (size_t i = 0; i < ops.size(); ++i)
-    if (ops[i].kind == 'c' && ops[i].array) build(i);
-  Operand out(nm.layout, nm.esize, h, w, n, anyArray, st);
-  Operand& dst = inPlace ? *srcs[0] : out;
-  args.op[slot] = dst.blk();
+    if (ops[i].kind == 'c' && ops[i].array) blockOf[i] = blocks++;
+  const int dstBlock = blocks;
+  CallFixture fx(m, count, st, [&](int b) -> Extent {
+    for (size_t i = 0; i < ops.size(); ++i)
+      if (blockOf[i] == b) return ops[i].kind == 'c' ? Extent{1, 1} : ops[i].kind == 't' ? Extent{w, h} : Extent{h, w};
+    return {h, w};
+  });
+  std::mt19937 rng(seed);
+  for (size_t i = 0; i < ops.size(); ++i)
+    if (blockOf[i] >= 0) fx.block(blockOf[i]).fillRandom(rng, i == 0);  // exceptional values in one operand only
+  Args& args = fx.args;
   args.width = w;
   args.height = h;
   args.len = w;
-  args.count = count;
   args.val[0] = randomValue(rng, nm.esize);
   args.val[1] = randomValue(rng, nm.esize);
+  if (inPlace) args.op[dstBlock] = args.op[blockOf[0]];
+  const Operand& dst = fx.block(inPlace ? blockOf[0] : dstBlock);
 
-  std::vector<std::vector<uint8_t>> before;
-  for (auto& s : srcs)
-    if (s) before.push_back(s->snapshot());
-  // The expected values come from the operands as they were before the call.
-  std::vector<std::unique_ptr<Operand>> was;
-  for (auto& s : srcs) was.push_back(s ? std::make_unique<Operand>(*s) : nullptr);
-
-  omp_set_num_threads(threads);
-  const tarnStatus status = m.call(args);
-  omp_set_num_threads(1);
+  const tarnStatus status = fx.run(threads);
 
   std::ostringstream why;
   if (status != tarnStatusOk) why << "status " << status << "; ";
+  // The expected values come from the operands as they were before the call.
   auto seen = [&](size_t i, int obj, int r, int c) {
     const PatOperand o = ops[i];
-    if (o.kind == 'c' && !o.array) return args.val[0];
+    if (blockOf[i] < 0) return args.val[0];
+    const Operand& was = fx.before(blockOf[i]);
     const int k = o.array ? obj : 0;
-    return o.kind == 't' ? was[i]->get(k, c, r) : o.kind == 'c' ? was[i]->get(k, 0, 0) : was[i]->get(k, r, c);
+    return o.kind == 't' ? was.get(k, c, r) : o.kind == 'c' ? was.get(k, 0, 0) : was.get(k, r, c);
   };
   int bad = 0;
   for (int k = 0; k < n; ++k)
@@ -97,10 +86,7 @@ EwRun runElementwise(const MemberFn& m, const EwShape& shape, int count, const S
           why << "object " << k << " (" << r << "," << c << ") want " << std::hex << want << " got " << got << std::dec
               << "; ";
       }
-  if (!dst.canariesIntact()) why << "dst written outside its elements; ";
-  size_t j = 0;
-  for (auto& s : srcs)
-    if (s && !s->unchangedSince(before[j++]) && s.get() != &dst) why << "a source was written; ";
+  why << fx.untouched(inPlace ? std::vector<int>{blockOf[0]} : std::vector<int>{});
   run.failure = why.str();
   if (!run.failure.empty())
     run.failure = std::string(m.name) + " " + std::to_string(h) + "x" + std::to_string(w) + " count " +

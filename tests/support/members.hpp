@@ -31,6 +31,7 @@ struct BlkInfo {
   uint8_t has;  // fields of the block
   char kind;    // m t v c, 0 for a plain pointer
   bool out;     // written by the member
+  bool array;   // one object per object of the call (an array operand, or per-object results)
 };
 
 struct MemberFn {

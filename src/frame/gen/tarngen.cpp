@@ -607,7 +607,7 @@ std::string invokers(const std::vector<Member>& ms) {
     for (size_t i = 0; i < m.blocks.size(); ++i) {
       const Block& b = m.blocks[i];
       s << (i ? ", " : "") << "{" << b.has << ", " << (b.kind ? "'" + std::string(1, b.kind) + "'" : std::string("0"))
-        << ", " << (b.out ? "true" : "false") << "}";
+        << ", " << (b.out ? "true" : "false") << ", " << (b.slice == "Shared" || b.slice == "Scratch" ? "false" : "true") << "}";
     }
     s << "}, " << m.sizeMask << ", " << (m.hasCount ? "true" : "false") << "},\n";
   }
