@@ -1,27 +1,13 @@
 // Serial or parallel: each array member opens a region exactly from its threshold on, on the
 // path its operands choose. Regions are counted by interposing the runtime's entry that every
 // region with a requested team size passes through.
-#include <dlfcn.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <atomic>
-#include <cstring>
 #include <string>
 
 #include "elementwise.hpp"
-
-namespace {
-std::atomic<int> regions{0};
-}
-
-// The library asks for its team size before each region it opens.
-extern "C" void __kmpc_push_num_threads(void* loc, int32_t gtid, int32_t n) {
-  using Fn = void (*)(void*, int32_t, int32_t);
-  static const Fn next = reinterpret_cast<Fn>(dlsym(RTLD_NEXT, "__kmpc_push_num_threads"));
-  regions.fetch_add(1);
-  next(loc, gtid, n);
-}
+#include "regions.hpp"
 
 namespace tt {
 namespace {
@@ -85,9 +71,7 @@ const ThresholdRow* rowOf(const Name& nm) {
 }
 
 int regionsOf(const MemberFn& m, const EwShape& s, int count, const Style& st) {
-  regions = 0;
-  const EwRun run = runElementwise(m, s, count, st, 2, 3, [](double, double, const Args&, int) { return 0.0; });
-  return regions.load();
+  return regionsOpenedBy([&] { runElementwise(m, s, count, st, 2, 3, [](double, double, const Args&, int) { return 0.0; }); });
 }
 
 TEST(Thresholds, RegionFromTheThresholdOfThePathOn) {
@@ -121,13 +105,9 @@ TEST(Thresholds, RegionFromTheThresholdOfThePathOn) {
 // One thread, or fewer objects than threads, never opens a region, however large the objects.
 TEST(Thresholds, NoRegionWithOneThreadOrFewObjects) {
   const MemberFn& m = member("tarnAdd_mama_32f");
-  regions = 0;
-  runElementwise(m, {3, 3}, 5000, style("packed"), 1, 1, refAdd);
-  EXPECT_EQ(regions.load(), 0);
-  runElementwise(m, {200, 200}, 3, style("packed"), 4, 1, refAdd);
-  EXPECT_EQ(regions.load(), 0);
-  runElementwise(m, {200, 200}, 4, style("packed"), 4, 1, refAdd);
-  EXPECT_EQ(regions.load(), 1);
+  EXPECT_EQ(regionsOpenedBy([&] { runElementwise(m, {3, 3}, 5000, style("packed"), 1, 1, refAdd); }), 0);
+  EXPECT_EQ(regionsOpenedBy([&] { runElementwise(m, {200, 200}, 3, style("packed"), 4, 1, refAdd); }), 0);
+  EXPECT_EQ(regionsOpenedBy([&] { runElementwise(m, {200, 200}, 4, style("packed"), 4, 1, refAdd); }), 1);
 }
 
 }  // namespace
