@@ -1,6 +1,9 @@
 // tarn against the code a caller would otherwise write, measured side by side in one run.
 //
-// Every workload is one row of kWorkloads (end of this file): a name, the object shape and type,
+// This file holds the element-wise workloads and main(); each other family registers its own
+// workloads from its own bench/<family>_bench.cpp through support.hpp, named the same way
+// (workload/shape/N:n/contender/T:threads) so that report.py tabulates every family alike.
+// Every workload here is one row of kWorkloads (end of this file): a name, the object shape and type,
 // how the batch is laid out, the bytes one object costs, and the contenders:
 //   tarn    the export, on 1 and 2 threads (omp_set_num_threads)
 //   plain   the loop written the obvious way, compiled -O3 -msse3 -ffp-contract=off
@@ -30,27 +33,13 @@
 #include <string>
 #include <vector>
 
+#include "support.hpp"
+
+using tarnbench::Buf;
+using tarnbench::registerBench;
+using tarnbench::timeCalls;
+
 namespace {
-
-// ---- Memory --------------------------------------------------------------------------------
-
-struct Buf {
-  std::byte* p = nullptr;
-  size_t bytes = 0;
-  Buf() = default;
-  explicit Buf(size_t n) : bytes(n) {
-    p = static_cast<std::byte*>(std::aligned_alloc(64, (n + 63) / 64 * 64));
-    if (!p) std::abort();
-  }
-  Buf(Buf&& o) noexcept : p(o.p), bytes(o.bytes) { o.p = nullptr; }
-  Buf& operator=(Buf&& o) noexcept {
-    std::swap(p, o.p);
-    std::swap(bytes, o.bytes);
-    return *this;
-  }
-  ~Buf() { std::free(p); }
-  template <class T> T* as() const { return reinterpret_cast<T*>(p); }
-};
 
 // How the batch is laid out and how the operands pair up.
 enum class Lay { S, L, P };  // packed objects / table of object pointers / one stream per element
@@ -452,23 +441,8 @@ void run(benchmark::State& st, const Workload& wl, const Contender& k, int32_t n
   }
   const int saved = omp_get_max_threads();
   if (k.who == Who::Tarn) omp_set_num_threads(threads);
-  // Each call is timed on its own: the sum is the benchmark's time, and the fastest call is kept
-  // as best_ns/obj, which a busy machine disturbs far less than the sum.
-  double best = 1e300;
-  for (auto _ : st) {
-    const auto t0 = std::chrono::steady_clock::now();
-    k.call(c, threads);
-    benchmark::ClobberMemory();
-    const double dt = std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
-    st.SetIterationTime(dt);
-    best = std::min(best, dt);
-  }
+  timeCalls(st, n, wl.bytesPerObj, [&] { k.call(c, threads); });
   if (k.who == Who::Tarn) omp_set_num_threads(saved);
-  st.SetBytesProcessed(int64_t(double(st.iterations()) * wl.bytesPerObj * n));
-  st.counters["ns/obj"] = benchmark::Counter(double(n) * 1e-9, benchmark::Counter::kIsIterationInvariantRate |
-                                                                    benchmark::Counter::kInvert);
-  st.counters["bytes_per_obj"] = wl.bytesPerObj;
-  st.counters["best_ns/obj"] = best * 1e9 / n;
 }
 
 }  // namespace
@@ -480,9 +454,7 @@ int main(int argc, char** argv) {
         for (int t : {1, 2}) {
           if (k.who == Who::Peer && t > 1) continue;
           const std::string name = wl.name + "/N:" + std::to_string(n) + "/" + k.name + "/T:" + std::to_string(t);
-          benchmark::RegisterBenchmark(name.c_str(), [&wl, &k, n, t](benchmark::State& st) { run(st, wl, k, n, t); })
-              ->UseManualTime()
-              ->ComputeStatistics("min", [](const std::vector<double>& v) { return *std::min_element(v.begin(), v.end()); });
+          registerBench(name, [&wl, &k, n, t](benchmark::State& st) { run(st, wl, k, n, t); });
         }
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

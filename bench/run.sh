@@ -15,7 +15,7 @@ reps=${REPS:-5}
 min_time=${MIN_TIME:-0.2}
 
 missing=""
-for p in cmake ninja-build clang libomp-dev libstdc++-12-dev python3 libbenchmark-dev libeigen3-dev libglm-dev gnuplot-nox; do
+for p in cmake ninja-build clang libomp-dev libstdc++-12-dev python3 libbenchmark-dev libeigen3-dev libglm-dev liblapacke-dev libopenblas-dev gnuplot-nox; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "ok installed" || missing="$missing $p"
 done
 if [ -n "$missing" ]; then
