@@ -236,7 +236,7 @@ tarnStatus tarnLoadIdentity_ma_64f(double* dst, int32_t dstObjStride, int32_t ds
 tarnStatus tarnLoadIdentity_ma_64f_L(double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
 tarnStatus tarnLoadIdentity_ma_64f_P(double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
 
-/** Matrix product dst = op(src1) * op(src2), each operand read as stored (m) or transposed (t); sizes describe the matrices as stored. */
+/** Products: dst = op(src1) * op(src2) of matrices and vectors, each matrix read as stored (m) or transposed (t), its sizes describing it as stored; or an operand times a constant. */
 tarnStatus tarnMul_mm4x4_32f(const float* src1, const float* src2, float* dst);
 
 /** dst = src1*val + src2 per element: the product and the sum each rounded, never fused. */

@@ -238,7 +238,7 @@ inline constexpr FamilyDoc kDocs[] = {
   {"Sub", "Element-wise difference, the operand named first minus the other, one rounded subtraction per element."},
   {"Saxpy", "dst = src1*val + src2 per element: the product and the sum each rounded, never fused."},
   {"LComb", "dst = src1*val1 + src2*val2 per element: both products and the sum each rounded, never fused."},
-  {"Mul", "Matrix product dst = op(src1) * op(src2), each operand read as stored (m) or transposed (t); sizes describe the matrices as stored."},
+  {"Mul", "Products: dst = op(src1) * op(src2) of matrices and vectors, each matrix read as stored (m) or transposed (t), its sizes describing it as stored; or an operand times a constant."},
   {"Copy", "Copies an array of matrices or vectors from one layout to another, element by element as raw bits."},
   {"Extract", "Gathers an operand into one dense buffer, row by row; a t operand arrives transposed."},
   {"LoadIdentity", "Fills every matrix of the array with ones on the main diagonal and zeros elsewhere."},
