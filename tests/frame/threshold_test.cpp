@@ -1,6 +1,7 @@
 // Serial or parallel: each array member opens a region exactly from its threshold on, on the
 // path its operands choose. Regions are counted by interposing the runtime's entry that every
-// region with a requested team size passes through.
+// region with a requested team size passes through: __kmpc_push_num_threads for code clang
+// compiled, GOMP_parallel for code GCC compiled (libomp serves both).
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
@@ -21,6 +22,13 @@ extern "C" void __kmpc_push_num_threads(void* loc, int32_t gtid, int32_t n) {
   static const Fn next = reinterpret_cast<Fn>(dlsym(RTLD_NEXT, "__kmpc_push_num_threads"));
   regions.fetch_add(1);
   next(loc, gtid, n);
+}
+
+extern "C" void GOMP_parallel(void (*fn)(void*), void* data, unsigned n, unsigned flags) {
+  using Fn = void (*)(void (*)(void*), void*, unsigned, unsigned);
+  static const Fn next = reinterpret_cast<Fn>(dlsym(RTLD_NEXT, "GOMP_parallel"));
+  regions.fetch_add(1);
+  next(fn, data, n, flags);
 }
 
 namespace tt {
