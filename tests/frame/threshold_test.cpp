@@ -1,6 +1,6 @@
 // Serial or parallel: each array member opens a region exactly from its threshold on, on the
 // path its operands choose. Regions are counted by interposing the runtime's entry that every
-// region with a requested team size passes through.
+// region with a requested team size passes through (see regions.hpp).
 #include <gtest/gtest.h>
 
 #include <algorithm>

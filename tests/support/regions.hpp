@@ -1,5 +1,6 @@
 // Parallel regions opened by the library, counted through the runtime's entry that every region
-// with a requested team size passes through.
+// with a requested team size passes through: __kmpc_push_num_threads for code clang compiled,
+// GOMP_parallel for code GCC compiled (libomp serves both).
 #pragma once
 
 #include <functional>
