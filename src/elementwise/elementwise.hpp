@@ -436,7 +436,10 @@ tarnStatus run(const Op& op, const Plan& plan, const Call& c) {
     const auto a = operandOf<T, L, Contig, S.a>(s.op[kIa], sw(S.a), s.val[0]);
     const auto b = operandOf<T, L, Contig, S.b>(s.op[kIb], sw(S.b), s.val[0]);
     const auto d = operandOf<T, L, Contig, Operand{S.matrix ? 'm' : 'v', S.anyArray}, true>(s.op[kId], w, 0);
-    worker<T, L, Contig, S>(op, d, a, b, s.count, h, w);
+    // A single object is a count of 1 the compiler can see: no object loop around stores that
+    // hit the same address every time (GCC 12's loop store motion has been seen to give such a
+    // sunk vector store the aligned instruction whatever the pointer).
+    worker<T, L, Contig, S>(op, d, a, b, S.anyArray ? s.count : 1, h, w);
     return tarnStatusOk;
   });
 }

@@ -75,11 +75,11 @@ struct Thr {
 constexpr Thr thr(int32_t s, int32_t l, int32_t p) { return {s, s, l, l, p}; }
 
 struct Row {
-  std::string_view family;
-  std::string_view pattern;
-  std::string_view impl;  // C++ namespace holding run<>() for this row
-  std::string_view args;
-  std::string_view checksS, checksL, checksP;
+  std::string_view family = {};
+  std::string_view pattern = {};
+  std::string_view impl = {};  // C++ namespace holding run<>() for this row
+  std::string_view args = {};
+  std::string_view checksS = {}, checksL = {}, checksP = {};
   std::string_view est = {};  // empty: no estimate, never a wrapper
   Thr t32{}, t64{};
   Rule rule = Rule::None;
