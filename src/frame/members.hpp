@@ -217,6 +217,25 @@ inline constexpr Row kRows[] = {
   {"LComb", "vav", "lcomb", kArgsLComb, "NCZT", "NCZTR", "NCZTR", "2*len*count+len", kLComb32, kLComb64},
   {"LComb", "vava", "lcomb", kArgsLComb, "NCZT", "NCZTR", "NCZTR", "3*len*count", kLComb32, kLComb64},
 
+  // Mul with two matrices: each operand's sizes describe it as stored, right behind its block.
+  // The shape rule sits between the sizes and the strides; E counts the elements touched.
+  {"Mul", "mm",   "mul", kArgsMulMM, "NZHT", "", "NZHR", {}, {}, {}, Rule::Product},
+  {"Mul", "mt",   "mul", kArgsMulMM, "NZHT", "", "NZHR", {}, {}, {}, Rule::Product},
+  {"Mul", "tm",   "mul", kArgsMulMM, "NZHT", "", "NZHR", {}, {}, {}, Rule::Product},
+  {"Mul", "tt",   "mul", kArgsMulMM, "NZHT", "", "NZHR", {}, {}, {}, Rule::Product},
+  {"Mul", "mam",  "mul", kArgsMulMM, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "mat",  "mul", kArgsMulMM, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "tam",  "mul", kArgsMulMM, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "tat",  "mul", kArgsMulMM, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "mma",  "mul", kArgsMulMM, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "mta",  "mul", kArgsMulMM, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "tma",  "mul", kArgsMulMM, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "tta",  "mul", kArgsMulMM, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "mama", "mul", kArgsMulMM, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "mata", "mul", kArgsMulMM, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "tama", "mul", kArgsMulMM, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "tata", "mul", kArgsMulMM, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+
   // Data movement: layout conversion, gathering, identity fill, transposition. Always serial.
   // Copy checks sizes before count, and object strides only when count > 1, last.
   {"Copy", "ma", "copy", kArgsCopyM, "NZCERO", "NZCERO", "NZCERO", {}, {}, {}, Rule::None, false, {}, Forms::CopyPairs},

@@ -151,6 +151,16 @@ TEST(Validation, PinnedOrders) {
       {"tarnExtract_v_64f_P", [](Args& a) { a.op[1].ptr = nullptr; a.len = 0; }, tarnStatusBadSize},
       {"tarnLoadIdentity_ma_32f_P", [](Args& a) { a.op[0].roi = 2; a.count = 0; }, tarnStatusBadRoiShift},
       {"tarnLoadIdentity_ma_64f_P", [](Args& a) { a.op[0].roi = 4; a.count = 0; }, tarnStatusBadCount},
+      // Products: the shape rule between the sizes and the strides; no stride step in a single
+      // LayoutP product; an object stride is checked with count 1 too.
+      {"tarnMul_mam_32f", [](Args& a) { a.op[1].h = 2; a.op[0].row = 2; }, tarnStatusShapeMismatch},
+      {"tarnMul_mam_32f", [](Args& a) { a.op[1].h = 2; a.op[0].w = 0; }, tarnStatusBadSize},
+      {"tarnMul_mta_64f", [](Args& a) { a.op[1].w = 2; }, tarnStatusShapeMismatch},  // src1Width = src2Width
+      {"tarnMul_tma_64f", [](Args& a) { a.op[1].w = 2; }, tarnStatusOk},             // src1Height = src2Height
+      {"tarnMul_mama_32f_L", [](Args& a) { a.count = 0; a.op[1].h = 2; }, tarnStatusBadCount},
+      {"tarnMul_mm_32f_P", [](Args& a) { a.op[1].h = 2; a.op[2].roi = 2; }, tarnStatusShapeMismatch},
+      {"tarnMul_mm_32f_P", [](Args& a) { a.op[2].roi = 2; }, tarnStatusBadRoiShift},
+      {"tarnMul_mam_32f", [](Args& a) { a.count = 1; a.op[0].obj = 2; }, tarnStatusBadStride},
   };
   for (const Case& c : cases) {
     const MemberFn& m = member(c.name);
