@@ -163,3 +163,29 @@ inline void streamStore(float* p, const float* s) {
 inline void storeFence() { _mm_sfence(); }
 
 }  // namespace tarn::simd
+
+// ---- 3x3 floats whose rows follow each other without a gap -------------------------------------
+// Nine floats read as three rows of one register each, lane 3 undefined: rows 0 and 1 by 16-byte
+// loads from their first element (their lane 3 is the next row's first element), row 2 by the
+// load that ends at the object's last element, shifted down one lane. Nothing outside the nine
+// floats is read.
+namespace tarn::simd {
+
+inline void loadRows3x3(const float* p, __m128 r[3]) {
+  r[0] = _mm_loadu_ps(p);
+  r[1] = _mm_loadu_ps(p + 3);
+  const __m128 t = _mm_loadu_ps(p + 5);
+  r[2] = _mm_shuffle_ps(t, t, _MM_SHUFFLE(3, 3, 2, 1));
+}
+
+// Three rows back into nine floats, nothing else written: rows 0 and 1 by 16-byte stores (row 1
+// overwrites the undefined lane row 0 left), row 2 by a store ending at the last element that
+// carries row 1's last element in front of it.
+inline void storeRows3x3(float* p, const __m128 r[3]) {
+  _mm_storeu_ps(p, r[0]);
+  _mm_storeu_ps(p + 3, r[1]);
+  const __m128 t = _mm_shuffle_ps(r[1], r[2], _MM_SHUFFLE(0, 0, 2, 2));  // r1.2 r1.2 r2.0 r2.0
+  _mm_storeu_ps(p + 5, _mm_shuffle_ps(t, r[2], _MM_SHUFFLE(2, 1, 2, 0)));
+}
+
+}  // namespace tarn::simd

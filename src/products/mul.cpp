@@ -8,6 +8,7 @@
 // by worker, and decides the bits: a kernel sums from the first product, the general paths from
 // +0.0 (so -0.0 survives only in a kernel), and the tile path has orders of its own.
 #include <string_view>
+#include <type_traits>
 
 #include "call.hpp"
 #include "dispatch.hpp"
@@ -97,6 +98,10 @@ tarnStatus work(const Call& s) {
     const auto a = cached<N * N>(operandOf<T, L, Contig, S.a>(b1, N));
     const auto b = cached<N * N>(operandOf<T, L, Contig, S.b>(b2, N));
     const auto d = cached<N * N>(operandOf<T, L, Contig, kDst, true>(bd, N));
+    if constexpr (N == 3 && std::is_same_v<T, float> && RowRun<decltype(a.obj(0))>::value &&
+                  RowRun<decltype(b.obj(0))>::value && RowRun<decltype(d.obj(0))>::value) {
+      if (b1.row == 12 && b2.row == 12 && bd.row == 12) return fixedKernel3Gapless(d, a, b, count);
+    }
     fixedKernel<N, T>(d, a, b, count);
   };
   switch (n) {

@@ -121,6 +121,26 @@ void fixedKernel(const D& d, const A& a, const B& b, int32_t count) {
   }
 }
 
+// 3x3 floats whose rows all follow each other without a gap: each row one register (lane 3
+// unused), the same sums in the same order as fixedKernel<3>. All of an object's sources are
+// loaded before its first store.
+template <class D, class A, class B>
+void fixedKernel3Gapless(const D& d, const A& a, const B& b, int32_t count) {
+  constexpr bool kSharedA = Single<A>::value, kSharedB = Single<B>::value;
+  __m128 ra[3], rb[3];
+  if constexpr (kSharedA) simd::loadRows3x3(a.obj(0).p, ra);
+  if constexpr (kSharedB) simd::loadRows3x3(b.obj(0).p, rb);
+  for (int32_t n = 0; n < count; ++n) {
+    if constexpr (!kSharedA) simd::loadRows3x3(a.obj(n).p, ra);
+    if constexpr (!kSharedB) simd::loadRows3x3(b.obj(n).p, rb);
+    __m128 out[3];
+    for (int i = 0; i < 3; ++i)
+      out[i] = simd::add(simd::add(simd::mul(simd::splat<0>(ra[i]), rb[0]), simd::mul(simd::splat<1>(ra[i]), rb[1])),
+                         simd::mul(simd::splat<2>(ra[i]), rb[2]));
+    simd::storeRows3x3(d.obj(n).p, out);
+  }
+}
+
 // ---- General shapes ---------------------------------------------------------------------------
 
 struct Dims {
