@@ -1,5 +1,6 @@
-// tarn at work on a realistic batch: a million 3x3 and 4x4 matrices and 3-vectors, summed in
-// each layout on one thread and on all of them, checked against a plain loop and timed.
+// tarn at work on a realistic batch: a million 3x3 and 4x4 matrices and 3-vectors, summed,
+// scaled, multiplied and converted between layouts, on one thread and on all of them, each
+// checked against a plain loop and timed.
 #include <omp.h>
 
 #include <algorithm>
@@ -86,6 +87,20 @@ int main() {
     for (int n = 0; n < kN; ++n)
       for (int e = 0; e < x.elems; ++e) x.expect[size_t(n) * x.elems + e] = x.a[size_t(n) * x.elems + e] + x.b[size_t(n) * x.elems + e];
   };
+  // dst[n] = a[n] * b[n], or a[n] * b[0] with one right factor for the whole batch.
+  auto productLoop = [](Batch& x, int order, bool one) {
+    const size_t nn = size_t(order) * order;
+    for (int n = 0; n < kN; ++n) {
+      const float* a = &x.a[n * nn];
+      const float* b = &x.b[one ? 0 : n * nn];
+      for (int i = 0; i < order; ++i)
+        for (int j = 0; j < order; ++j) {
+          float s = a[i * order] * b[j];
+          for (int k = 1; k < order; ++k) s += a[i * order + k] * b[k * order + j];
+          x.expect[n * nn + i * order + j] = s;
+        }
+    }
+  };
   // One fixed offset matrix added to every object.
   const float offset[9] = {0.5f, -1.25f, 2.0f, 3.5f, 0.0f, -7.0f, 1e-3f, 42.0f, -0.75f};
   // Scalars with many significant bits, so every product is rounded.
@@ -143,6 +158,14 @@ int main() {
        },
        [&] { return tarnLComb_vav_32f(v3.a.data(), 12, 4, kScale1, offset, 4, kScale2, v3.d.data(), 12, 4, 3, kN); },
        [&] { return sameBits(v3.d, v3.expect); }},
+      // Products: every element summed left to right from the first product, as tarn's fixed
+      // kernels of orders 3 to 6 do.
+      {"Mul_mama 3x3, LayoutS", 36.0 * 3, [&] { productLoop(m3, 3, false); },
+       [&] { return tarnMul_mama_32f(m3.a.data(), 36, 12, 4, 3, 3, m3.b.data(), 36, 12, 4, 3, 3, m3.d.data(), 36, 12, 4, kN); },
+       [&] { return sameBits(m3.d, m3.expect); }},
+      {"Mul_mam 4x4 by one, LayoutS", 64.0 * 2, [&] { productLoop(m4, 4, true); },
+       [&] { return tarnMul_mam_32f(m4.a.data(), 64, 16, 4, 4, 4, m4.b.data(), 16, 4, 4, 4, m4.d.data(), 64, 16, 4, kN); },
+       [&] { return sameBits(m4.d, m4.expect); }},
       // Layout conversion: the nine element streams of the LayoutP batch gathered into packed
       // 3x3 matrices, then scattered back into fresh streams.
       {"Copy 3x3 LayoutP -> LayoutS", 36.0 * 2,
