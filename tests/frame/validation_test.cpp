@@ -151,6 +151,24 @@ TEST(Validation, PinnedOrders) {
       {"tarnExtract_v_64f_P", [](Args& a) { a.op[1].ptr = nullptr; a.len = 0; }, tarnStatusBadSize},
       {"tarnLoadIdentity_ma_32f_P", [](Args& a) { a.op[0].roi = 2; a.count = 0; }, tarnStatusBadRoiShift},
       {"tarnLoadIdentity_ma_64f_P", [](Args& a) { a.op[0].roi = 4; a.count = 0; }, tarnStatusBadCount},
+      // Reductions: the count before sizes; CrossProduct has no size, and its count and stride
+      // checks change places with the operand form.
+      {"tarnDotProduct_vav_32f", [](Args& a) { a.count = 0; a.len = 0; }, tarnStatusBadCount},
+      {"tarnDotProduct_vava_64f_P", [](Args& a) { a.len = 0; a.op[1].roi = -8; }, tarnStatusBadSize},
+      {"tarnL2Norm_va_32f_L", [](Args& a) { a.op[0].elem = 2; a.op[0].roi = 2; }, tarnStatusBadStride},
+      {"tarnTrace_ma_64f", [](Args& a) { a.count = 0; a.order = 0; }, tarnStatusBadCount},
+      {"tarnFrobNorm_m_32f_P", [](Args& a) { a.height = 0; a.op[0].roi = 2; }, tarnStatusBadSize},
+      {"tarnCrossProduct_vav_32f", [](Args& a) { a.count = 0; a.op[1].elem = 2; }, tarnStatusBadStride},
+      {"tarnCrossProduct_vva_32f", [](Args& a) { a.count = 0; a.op[1].elem = 2; }, tarnStatusBadCount},
+      {"tarnCrossProduct_vav_64f_L", [](Args& a) { a.count = 0; a.op[0].roi = 4; }, tarnStatusBadRoiShift},
+      {"tarnCrossProduct_vav_64f_L", [](Args& a) { a.op[0].roi = 4; a.op[2].elem = 4; }, tarnStatusBadStride},
+      {"tarnCrossProduct_vav_32f_P", [](Args& a) { a.count = 0; a.op[0].roi = 2; }, tarnStatusBadCount},
+      {"tarnCrossProduct_vav_32f_P", [](Args& a) { a.count = 0; a.op[2].obj = 2; }, tarnStatusBadStride},
+      {"tarnCrossProduct_vava_64f_L", [](Args& a) { a.count = 0; a.op[2].elem = 4; }, tarnStatusBadCount},
+      {"tarnCrossProduct_vva_32f_P", [](Args& a) { a.op[1].obj = 0; a.op[2].roi = -4; }, tarnStatusBadStride},
+      {"tarnCrossProduct_vv_64f_P", [](Args& a) { a.op[2].roi = 4; a.op[0].ptr = nullptr; }, tarnStatusNullPointer},
+      {"tarnCrossProduct_vv_64f_P", [](Args& a) { a.op[2].roi = 4; }, tarnStatusBadRoiShift},
+      {"tarnCrossProduct_vv_32f", [](Args& a) { a.count = 0; a.op[0].elem = 0; }, tarnStatusBadStride},
   };
   for (const Case& c : cases) {
     const MemberFn& m = member(c.name);
