@@ -180,6 +180,14 @@ inline double sumLanes(__m128d v) { return _mm_cvtsd_f64(_mm_add_sd(v, _mm_unpac
 // v with x added to lane 0; the other lanes unchanged.
 inline __m128 addLane0(__m128 v, float x) { return _mm_add_ss(v, _mm_set_ss(x)); }
 inline __m128d addLane0(__m128d v, double x) { return _mm_add_sd(v, _mm_set_sd(x)); }
+// Asks for the cache line of p ahead of its use; never faults, whatever p is.
+inline void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_T0); }
+// (a0 + a1, a2 + a3, b0 + b1, b2 + b3).
+inline __m128 hadd(__m128 a, __m128 b) { return _mm_hadd_ps(a, b); }
+inline __m128d zeroDoubles() { return _mm_setzero_pd(); }
+// Lane 0 and lane 1 of a pair.
+inline double low(__m128d v) { return _mm_cvtsd_f64(v); }
+inline double high(__m128d v) { return _mm_cvtsd_f64(_mm_unpackhi_pd(v, v)); }
 // x in lane 0, zeros elsewhere.
 inline __m128 lane0(float x) { return _mm_set_ss(x); }
 inline __m128d lane0(double x) { return _mm_set_sd(x); }
@@ -197,33 +205,18 @@ inline __m128 load3(const float* p) {
 // Four packed 3-vectors (48 bytes as a, b, c) into lanes by object: x, y, z of objects 0..3.
 inline void deinterleave3(__m128 a, __m128 b, __m128 c, __m128& x, __m128& y, __m128& z) {
   // a = x0 y0 z0 x1, b = y1 z1 x2 y2, c = z2 x3 y3 z3
-  const __m128 bc = _mm_shuffle_ps(b, c, _MM_SHUFFLE(1, 1, 2, 2));  // x2 x2 x3 x3
-  x = _mm_shuffle_ps(a, bc, _MM_SHUFFLE(2, 0, 3, 0));
-  const __m128 ab = _mm_shuffle_ps(a, b, _MM_SHUFFLE(0, 0, 1, 1));   // y0 y0 y1 y1
-  const __m128 bc2 = _mm_shuffle_ps(b, c, _MM_SHUFFLE(2, 2, 3, 3));  // y2 y2 y3 y3
-  y = _mm_shuffle_ps(ab, bc2, _MM_SHUFFLE(2, 0, 2, 0));
-  const __m128 ab2 = _mm_shuffle_ps(a, b, _MM_SHUFFLE(1, 1, 2, 2));  // z0 z0 z1 z1
-  const __m128 cc = _mm_shuffle_ps(c, c, _MM_SHUFFLE(3, 3, 0, 0));   // z2 z2 z3 z3
-  z = _mm_shuffle_ps(ab2, cc, _MM_SHUFFLE(2, 0, 2, 0));
+  const __m128 m = _mm_shuffle_ps(b, c, _MM_SHUFFLE(2, 1, 3, 2));  // x2 y2 x3 y3
+  const __m128 n = _mm_shuffle_ps(a, b, _MM_SHUFFLE(1, 0, 2, 1));  // y0 z0 y1 z1
+  x = _mm_shuffle_ps(a, m, _MM_SHUFFLE(2, 0, 3, 0));
+  y = _mm_shuffle_ps(n, m, _MM_SHUFFLE(3, 1, 2, 0));
+  z = _mm_shuffle_ps(n, c, _MM_SHUFFLE(3, 0, 3, 1));
 }
-// The inverse: x, y, z of four objects back to 48 packed bytes a, b, c.
-inline void interleave3(__m128 x, __m128 y, __m128 z, __m128& a, __m128& b, __m128& c) {
-  const __m128 xy01 = _mm_unpacklo_ps(x, y);                         // x0 y0 x1 y1
-  const __m128 xy23 = _mm_unpackhi_ps(x, y);                         // x2 y2 x3 y3
-  const __m128 z0x1 = _mm_shuffle_ps(z, xy01, _MM_SHUFFLE(2, 2, 0, 0));  // z0 z0 x1 x1
-  a = _mm_shuffle_ps(xy01, z0x1, _MM_SHUFFLE(2, 0, 1, 0));          // x0 y0 z0 x1
-  const __m128 y1z1 = _mm_shuffle_ps(xy01, z, _MM_SHUFFLE(1, 1, 3, 3));  // y1 y1 z1 z1
-  b = _mm_shuffle_ps(y1z1, xy23, _MM_SHUFFLE(1, 0, 2, 0));               // y1 z1 x2 y2
-  const __m128 z2z3 = _mm_shuffle_ps(z, z, _MM_SHUFFLE(3, 3, 2, 2));     // z2 z2 z3 z3
-  const __m128 z2x3 = _mm_shuffle_ps(z2z3, xy23, _MM_SHUFFLE(2, 2, 0, 0));  // z2 z2 x3 x3
-  const __m128 y3z3 = _mm_shuffle_ps(xy23, z2z3, _MM_SHUFFLE(2, 2, 3, 3));  // y3 y3 z3 z3
-  c = _mm_shuffle_ps(z2x3, y3z3, _MM_SHUFFLE(2, 0, 2, 0));                  // z2 x3 y3 z3
-}
-
 // A 3-vector as (x, 0, y, z): one 4-byte and one 8-byte load.
 inline __m128 loadX0YZ(const float* p) { return _mm_loadh_pi(_mm_load_ss(p), reinterpret_cast<const __m64*>(p + 1)); }
 // Lanes (0, 2, 3) of the result read lanes (2, 3, 0) of v.
 inline __m128 rotateX0YZ(__m128 v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(0, 3, 1, 2)); }
+// (v1, v2, v0, v3).
+inline __m128 rotateYZX(__m128 v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(3, 0, 2, 1)); }
 // Lanes 2 and 3 to p[0] and p[1], lane 0 to p[2].
 inline void storeYZX(float* p, __m128 v) {
   _mm_storeh_pi(reinterpret_cast<__m64*>(p), v);

@@ -58,13 +58,13 @@ template <int N, bool Vav, class A, class B, class BV>
 int32_t lanes(const A& a, const B& b, const BV& single, float* d, int32_t count) {
   __m128 bk[N];
   if constexpr (Vav)
-    for (int k = 0; k < N; ++k) bk[k] = _mm_set1_ps(reduce::elem(single.obj(0), k));
+    for (int k = 0; k < N; ++k) bk[k] = simd::broadcast(reduce::elem(single.obj(0), k));
   auto sum = [&](const Quad<N>& x, const Quad<N>& y) {
     __m128 p[N];
-    for (int k = 0; k < N; ++k) p[k] = _mm_mul_ps(x.v[k], Vav ? bk[k] : y.v[k]);
-    if constexpr (N == 3) return _mm_add_ps(_mm_add_ps(p[0], p[1]), p[2]);
-    else if constexpr (Vav) return _mm_add_ps(_mm_add_ps(p[0], p[1]), _mm_add_ps(p[2], p[3]));
-    else return _mm_add_ps(_mm_add_ps(_mm_add_ps(p[0], p[1]), p[2]), p[3]);
+    for (int k = 0; k < N; ++k) p[k] = simd::mul(x.v[k], Vav ? bk[k] : y.v[k]);
+    if constexpr (N == 3) return simd::add(simd::add(p[0], p[1]), p[2]);
+    else if constexpr (Vav) return simd::add(simd::add(p[0], p[1]), simd::add(p[2], p[3]));
+    else return simd::add(simd::add(simd::add(p[0], p[1]), p[2]), p[3]);
   };
   auto quad = [](const auto& arr, int32_t n, bool last, bool packed) {
     if constexpr (N == 3 && std::is_same_v<std::decay_t<decltype(arr)>, ArrS<const float, true>>)
@@ -72,17 +72,47 @@ int32_t lanes(const A& a, const B& b, const BV& single, float* d, int32_t count)
     return reduce::quadRow<N>(arr, n, 0, last);
   };
   const bool pa = reduce::packed3(a);
+  if constexpr (N == 3) {
+    // Packed 3-vectors: the products are taken on the loaded vectors as they lie in memory
+    // (src2's elements repeated in the same pattern for vav) and only the products are
+    // transposed, which halves the shuffles.
+    if (pa && (Vav || reduce::packed3(b))) {
+      const float* pb = nullptr;
+      __m128 rep[3];
+      if constexpr (Vav) {
+        const float b0 = reduce::elem(single.obj(0), 0), b1 = reduce::elem(single.obj(0), 1), b2 = reduce::elem(single.obj(0), 2);
+        rep[0] = simd::constant(b0, b1, b2, b0);
+        rep[1] = simd::constant(b1, b2, b0, b1);
+        rep[2] = simd::constant(b2, b0, b1, b2);
+      } else {
+        pb = b.obj(0).p;
+      }
+      const float* pa0 = a.obj(0).p;
+      return reduce::inBlocks(count, [&](int32_t n, bool) {
+        reduce::readAhead(a, n);
+        if constexpr (!Vav) reduce::readAhead(b, n);
+        __m128 p[3], x, y, z;
+        for (int k = 0; k < 3; ++k)
+          p[k] = simd::mul(simd::load<4, false>(pa0 + 3 * ptrdiff_t(n) + 4 * k), Vav ? rep[k] : simd::load<4, false>(pb + 3 * ptrdiff_t(n) + 4 * k));
+        simd::deinterleave3(p[0], p[1], p[2], x, y, z);
+        simd::store<4, false>(d + n, simd::add(simd::add(x, y), z));
+      });
+    }
+  }
   if constexpr (Vav) {
     return reduce::inBlocks(count, [&](int32_t n, bool last) {
+      reduce::readAhead(a, n);
       const Quad<N> x = quad(a, n, last, pa);
-      _mm_storeu_ps(d + n, sum(x, x));
+      simd::store<4, false>(d + n, sum(x, x));
     });
   } else {
     const bool pb = reduce::packed3(b);
     return reduce::inBlocks(count, [&](int32_t n, bool last) {
+      reduce::readAhead(a, n);
+      reduce::readAhead(b, n);
       const Quad<N> x = quad(a, n, last, pa);
       const Quad<N> y = quad(b, n, last, pb);
-      _mm_storeu_ps(d + n, sum(x, y));
+      simd::store<4, false>(d + n, sum(x, y));
     });
   }
 }

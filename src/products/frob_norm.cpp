@@ -54,8 +54,8 @@ template <class At, class Load4>
 inline void blocksThenSingles(__m128& acc, int32_t i, int32_t n, const At& at, const Load4& load4) {
   for (; i + 8 <= n; i += 8) {
     const __m128 x = load4(i), y = load4(i + 4);
-    acc = _mm_add_ps(acc, _mm_mul_ps(x, x));
-    acc = _mm_add_ps(acc, _mm_mul_ps(y, y));
+    acc = simd::add(acc, simd::mul(x, x));
+    acc = simd::add(acc, simd::mul(y, y));
   }
   for (; i < n; ++i) {
     const float e = *at(i);
@@ -65,7 +65,7 @@ inline void blocksThenSingles(__m128& acc, int32_t i, int32_t n, const At& at, c
 
 template <Layout L, bool Contig, class V>
 float general32(const V& v, int32_t w, int32_t h) {
-  __m128 acc = _mm_setzero_ps();
+  __m128 acc = simd::zeroFloats();
   auto gathered = [](const auto& at) {
     return [&at](int32_t i) { return simd::gather4(at(i), at(i + 1), at(i + 2), at(i + 3)); };
   };
@@ -78,14 +78,14 @@ float general32(const V& v, int32_t w, int32_t h) {
     if constexpr (Contig) {
       int32_t i = 0;
       for (; i < n && !simd::aligned16(v.p + i); ++i) acc = simd::addLane0(acc, v.p[i] * v.p[i]);
-      blocksThenSingles(acc, i, n, at, [&](int32_t k) { return _mm_load_ps(v.p + k); });
+      blocksThenSingles(acc, i, n, at, [&](int32_t k) { return simd::load<4, true>(v.p + k); });
     } else {
       blocksThenSingles(acc, 0, n, at, gathered(at));
     }
   } else {
     for (int32_t r = 0; r < h; ++r) {
       auto at = [&](int32_t i) { return v.at(r, i); };
-      if constexpr (Contig) blocksThenSingles(acc, 0, w, at, [&](int32_t k) { return _mm_loadu_ps(v.rowPtr(r) + k); });
+      if constexpr (Contig) blocksThenSingles(acc, 0, w, at, [&](int32_t k) { return simd::load<4, false>(v.rowPtr(r) + k); });
       else blocksThenSingles(acc, 0, w, at, gathered(at));
     }
   }
@@ -115,15 +115,15 @@ double frob64(const V& v, int32_t w, int32_t h) {
   for (int32_t r = 0; r < h; ++r) {
     int32_t k = 0;
     if (w >= 8) {
-      __m128d a[4] = {_mm_setzero_pd(), _mm_setzero_pd(), _mm_setzero_pd(), _mm_setzero_pd()};
+      __m128d a[4] = {simd::zeroDoubles(), simd::zeroDoubles(), simd::zeroDoubles(), simd::zeroDoubles()};
       for (; k + 8 <= w; k += 8)
         for (int j = 0; j < 4; ++j) {
           const __m128d x = simd::gather2(v.at(r, k + 2 * j), v.at(r, k + 2 * j + 1));
-          a[j] = _mm_add_pd(a[j], _mm_mul_pd(x, x));
+          a[j] = simd::add(a[j], simd::mul(x, x));
         }
-      const __m128d t = _mm_add_pd(_mm_add_pd(a[0], a[1]), _mm_add_pd(a[2], a[3]));
-      s = s + _mm_cvtsd_f64(t);
-      s = s + _mm_cvtsd_f64(_mm_unpackhi_pd(t, t));
+      const __m128d t = simd::add(simd::add(a[0], a[1]), simd::add(a[2], a[3]));
+      s = s + simd::low(t);
+      s = s + simd::high(t);
     }
     for (; k < w; ++k) {
       const double e = *v.at(r, k);
@@ -133,18 +133,39 @@ double frob64(const V& v, int32_t w, int32_t h) {
   return simd::sqrtOf(s);
 }
 
+// 3x3 floats whose rows follow each other without a gap: each matrix is 9 elements in a row,
+// loaded as 4 + 4 + 1 (nothing outside the object is read). The horizontal adds of the squares
+// give (s0 + s1, s2 + s3, s4 + s5, s6 + s7); s8 joins lane 0; two more levels of horizontal adds
+// over the four objects finish every sum in square32<3>'s order, object j in lane j.
+template <class A>
+int32_t gapless3(const A& a, float* d, int32_t count) {
+  return reduce::inBlocks(count, [&](int32_t n, bool) {
+    reduce::readAhead(a, n);
+    __m128 h[4];
+    for (int j = 0; j < 4; ++j) {
+      const float* p = a.obj(n + j).p;
+      const __m128 x = simd::load<4, false>(p), y = simd::load<4, false>(p + 4);
+      h[j] = simd::addLane0(simd::hadd(simd::mul(x, x), simd::mul(y, y)), p[8] * p[8]);
+    }
+    const __m128 t = simd::hadd(simd::hadd(h[0], h[1]), simd::hadd(h[2], h[3]));
+    simd::store<4, false>(d + n, simd::sqrtLanes(t));
+  });
+}
+
 // Contiguous float arrays of N x N (3 or 4) matrices, four objects a register: row r of the
 // four objects is read and transposed, so element (r, c) of all four shares a register.
 // Returns the objects done.
 template <int N, class A>
 int32_t lanes(const A& a, float* d, int32_t count) {
+  if (N == 3 && a.row == 12) return gapless3(a, d, count);
   return reduce::inBlocks(count, [&](int32_t n, bool last) {
+    reduce::readAhead(a, n);
     __m128 s[N][N];
     for (int r = 0; r < N; ++r) {
       const Quad<N> q = reduce::quadRow<N>(a, n, r, last && r == N - 1);
-      for (int c = 0; c < N; ++c) s[r][c] = _mm_mul_ps(q.v[c], q.v[c]);
+      for (int c = 0; c < N; ++c) s[r][c] = simd::mul(q.v[c], q.v[c]);
     }
-    auto add = [](__m128 x, __m128 y) { return _mm_add_ps(x, y); };
+    auto add = [](__m128 x, __m128 y) { return simd::add(x, y); };
     __m128 t;
     if constexpr (N == 3) {
       t = add(add(add(add(s[0][0], s[0][1]), s[2][2]), add(s[0][2], s[1][0])),
@@ -154,7 +175,7 @@ int32_t lanes(const A& a, float* d, int32_t count) {
       for (int c = 0; c < 4; ++c) l[c] = add(add(add(s[0][c], s[1][c]), s[2][c]), s[3][c]);
       t = add(add(l[0], l[2]), add(l[1], l[3]));
     }
-    _mm_storeu_ps(d + n, simd::sqrtLanes(t));
+    simd::store<4, false>(d + n, simd::sqrtLanes(t));
   });
 }
 

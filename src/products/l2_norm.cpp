@@ -40,14 +40,15 @@ template <int N, class A>
 int32_t lanes(const A& a, float* d, int32_t count) {
   const bool packed = reduce::packed3(a);
   return reduce::inBlocks(count, [&](int32_t n, bool last) {
+    reduce::readAhead(a, n);
     Quad<N> x;
     if constexpr (N == 3 && std::is_same_v<A, ArrS<const float, true>>) x = packed ? reduce::quadPacked3(a, n) : reduce::quadRow<N>(a, n, 0, last);
     else x = reduce::quadRow<N>(a, n, 0, last);
     __m128 s[N];
-    for (int k = 0; k < N; ++k) s[k] = _mm_mul_ps(x.v[k], x.v[k]);
-    const __m128 sum = N == 3 ? _mm_add_ps(_mm_add_ps(s[0], s[1]), s[N - 1])
-                              : _mm_add_ps(_mm_add_ps(s[0], s[1]), _mm_add_ps(s[N - 2], s[N - 1]));
-    _mm_storeu_ps(d + n, simd::sqrtLanes(sum));
+    for (int k = 0; k < N; ++k) s[k] = simd::mul(x.v[k], x.v[k]);
+    const __m128 sum = N == 3 ? simd::add(simd::add(s[0], s[1]), s[N - 1])
+                              : simd::add(simd::add(s[0], s[1]), simd::add(s[N - 2], s[N - 1]));
+    simd::store<4, false>(d + n, simd::sqrtLanes(sum));
   });
 }
 

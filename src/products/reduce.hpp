@@ -79,21 +79,21 @@ T dotRule(const T* x, const T* y, int32_t n) {
   for (; k < peel; ++k) s = s + prod(k);
   T r;
   if constexpr (std::is_same_v<T, float>) {
-    __m128 a0 = simd::lane0(s), a1 = _mm_setzero_ps();
+    __m128 a0 = simd::lane0(s), a1 = simd::zeroFloats();
     for (; k + 8 <= n; k += 8) {
-      a0 = _mm_add_ps(a0, _mm_mul_ps(_mm_loadu_ps(x + k), _mm_load_ps(y + k)));
-      a1 = _mm_add_ps(a1, _mm_mul_ps(_mm_loadu_ps(x + k + 4), _mm_load_ps(y + k + 4)));
+      a0 = simd::add(a0, simd::mul(simd::load<4, false>(x + k), simd::load<4, true>(y + k)));
+      a1 = simd::add(a1, simd::mul(simd::load<4, false>(x + k + 4), simd::load<4, true>(y + k + 4)));
     }
-    r = simd::sumLanes(_mm_add_ps(a0, a1));
+    r = simd::sumLanes(simd::add(a0, a1));
   } else {
-    __m128d a0 = simd::lane0(s), a1 = _mm_setzero_pd(), a2 = a1, a3 = a1;
+    __m128d a0 = simd::lane0(s), a1 = simd::zeroDoubles(), a2 = a1, a3 = a1;
     for (; k + 8 <= n; k += 8) {
-      a0 = _mm_add_pd(a0, _mm_mul_pd(_mm_loadu_pd(x + k), _mm_load_pd(y + k)));
-      a1 = _mm_add_pd(a1, _mm_mul_pd(_mm_loadu_pd(x + k + 2), _mm_load_pd(y + k + 2)));
-      a2 = _mm_add_pd(a2, _mm_mul_pd(_mm_loadu_pd(x + k + 4), _mm_load_pd(y + k + 4)));
-      a3 = _mm_add_pd(a3, _mm_mul_pd(_mm_loadu_pd(x + k + 6), _mm_load_pd(y + k + 6)));
+      a0 = simd::add(a0, simd::mul(simd::load<2, false>(x + k), simd::load<2, true>(y + k)));
+      a1 = simd::add(a1, simd::mul(simd::load<2, false>(x + k + 2), simd::load<2, true>(y + k + 2)));
+      a2 = simd::add(a2, simd::mul(simd::load<2, false>(x + k + 4), simd::load<2, true>(y + k + 4)));
+      a3 = simd::add(a3, simd::mul(simd::load<2, false>(x + k + 6), simd::load<2, true>(y + k + 6)));
     }
-    r = simd::sumLanes(_mm_add_pd(_mm_add_pd(a0, a1), _mm_add_pd(a2, a3)));
+    r = simd::sumLanes(simd::add(simd::add(a0, a1), simd::add(a2, a3)));
   }
   for (; k < n; ++k) r = r + prod(k);
   return r;
@@ -143,8 +143,8 @@ inline Quad<N> transposed(__m128 r0, __m128 r1, __m128 r2, __m128 r3) {
 
 template <int N>
 inline __m128 rowLoad(const float* p, bool safe) {
-  if constexpr (N == 4) return _mm_loadu_ps(p);
-  else return safe ? simd::load3(p) : _mm_loadu_ps(p);
+  if constexpr (N == 4) return simd::load<4, false>(p);
+  else return safe ? simd::load3(p) : simd::load<4, false>(p);
 }
 
 // Row r of objects n..n+3 of a LayoutS array.
@@ -155,7 +155,7 @@ inline Quad<N> quadRow(const ArrS<const float, true>& a, int32_t n, int32_t r, b
   const float* p1 = byteAdd(p0, a.objStride);
   const float* p2 = byteAdd(p1, a.objStride);
   const float* p3 = byteAdd(p2, a.objStride);
-  return transposed<N>(_mm_loadu_ps(p0), _mm_loadu_ps(p1), _mm_loadu_ps(p2), rowLoad<N>(p3, last));
+  return transposed<N>(simd::load<4, false>(p0), simd::load<4, false>(p1), simd::load<4, false>(p2), rowLoad<N>(p3, last));
 }
 // Row r of objects n..n+3 of a LayoutL array.
 template <int N>
@@ -168,7 +168,7 @@ inline Quad<N> quadRow(const ArrL<const float, true>& a, int32_t n, int32_t r, b
 inline Quad<3> quadPacked3(const ArrS<const float, true>& a, int32_t n) {
   const float* p = a.obj(n).p;
   Quad<3> q;
-  simd::deinterleave3(_mm_loadu_ps(p), _mm_loadu_ps(p + 4), _mm_loadu_ps(p + 8), q.v[0], q.v[1], q.v[2]);
+  simd::deinterleave3(simd::load<4, false>(p), simd::load<4, false>(p + 4), simd::load<4, false>(p + 8), q.v[0], q.v[1], q.v[2]);
   return q;
 }
 
@@ -177,6 +177,13 @@ inline bool packed3(const A&) {
   return false;
 }
 inline bool packed3(const ArrS<const float, true>& a) { return a.objStride == 12; }
+
+// A LayoutS stream is asked for a few kilobytes ahead of the block being read, so that the
+// memory system keeps up with the lane kernels on large arrays; the objects of a pointer table
+// lie anywhere and are left to the hardware.
+template <class A>
+inline void readAhead(const A&, int32_t) {}
+inline void readAhead(const ArrS<const float, true>& a, int32_t n) { simd::prefetch(byteAdd(a.obj(n).p, 4608)); }
 
 // Runs `block(n, last)` over objects in blocks of 4 while whole blocks remain (`last`: the block
 // ends the call's objects) and returns the number of objects it covered.
