@@ -59,6 +59,10 @@ void worker(const A& a, const B& b, const D& d, int32_t count) {
       const float *pa = a.obj(0).p, *pb = b.obj(0).p;
       float* pd = d.obj(0).p;
       for (; n + 1 < count; ++n) {
+        if ((n & 3) == 0) {
+          simd::prefetch(byteAdd(pa, 4608));
+          simd::prefetch(byteAdd(pb, 4608));
+        }
         crossWide(pa, pb, pd);
         pa = byteAdd(pa, a.objStride);
         pb = byteAdd(pb, b.objStride);
