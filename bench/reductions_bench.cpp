@@ -70,7 +70,8 @@ void frobModel(const float* a, const float*, float* d) {
 void dotPlain(const Batch& c) {
   const float *a = c.a.as<float>(), *b = c.b.as<float>();
   float* d = c.d.as<float>();
-  for (int32_t i = 0; i < c.n; ++i) d[i] = a[3 * i] * b[3 * i] + a[3 * i + 1] * b[3 * i + 1] + a[3 * i + 2] * b[3 * i + 2];
+  for (int32_t i = 0; i < c.n; ++i)
+    d[i] = a[3 * i] * b[3 * i] + a[3 * i + 1] * b[3 * i + 1] + a[3 * i + 2] * b[3 * i + 2];
 }
 void dotEigen(const Batch& c) {
   using V = Eigen::Map<const Eigen::Vector3f>;
@@ -106,7 +107,8 @@ void normPlain(const Batch& c) {
   for (int32_t i = 0; i < c.n; ++i, a += 3) c.d.as<float>()[i] = std::sqrt(a[0] * a[0] + a[1] * a[1] + a[2] * a[2]);
 }
 void normEigen(const Batch& c) {
-  for (int32_t i = 0; i < c.n; ++i) c.d.as<float>()[i] = Eigen::Map<const Eigen::Vector3f>(c.a.as<float>() + 3 * i).norm();
+  for (int32_t i = 0; i < c.n; ++i)
+    c.d.as<float>()[i] = Eigen::Map<const Eigen::Vector3f>(c.a.as<float>() + 3 * i).norm();
 }
 void normGlm(const Batch& c) {
   const auto* a = c.a.as<glm::vec3>();
@@ -127,12 +129,15 @@ void frobEigen(const Batch& c) {
 void frobGlm(const Batch& c) {  // the sum of its columns' squared lengths
   const auto* a = c.a.as<glm::mat3>();
   for (int32_t i = 0; i < c.n; ++i)
-    c.d.as<float>()[i] = std::sqrt(glm::dot(a[i][0], a[i][0]) + glm::dot(a[i][1], a[i][1]) + glm::dot(a[i][2], a[i][2]));
+    c.d.as<float>()[i] =
+        std::sqrt(glm::dot(a[i][0], a[i][0]) + glm::dot(a[i][1], a[i][1]) + glm::dot(a[i][2], a[i][2]));
 }
 
 // ---- tarn ------------------------------------------------------------------------------------
 
-void dotTarn(const Batch& c) { tarnDotProduct_vava_32f(c.a.as<float>(), 12, 4, c.b.as<float>(), 12, 4, c.d.as<float>(), 3, c.n); }
+void dotTarn(const Batch& c) {
+  tarnDotProduct_vava_32f(c.a.as<float>(), 12, 4, c.b.as<float>(), 12, 4, c.d.as<float>(), 3, c.n);
+}
 void crossTarn(const Batch& c) {
   tarnCrossProduct_vava_32f(c.a.as<float>(), 12, 4, c.b.as<float>(), 12, 4, c.d.as<float>(), 12, 4, c.n);
 }
@@ -200,7 +205,8 @@ Batch& batchOf(const Reduction& r, int32_t n) {
   std::uniform_real_distribution<float> u(-1.0f, 1.0f);
   for (size_t i = 0; i < size_t(n) * r.in; ++i) c->a.as<float>()[i] = u(rng), c->b.as<float>()[i] = u(rng);
   c->expect.resize(size_t(n) * r.out);
-  for (int32_t i = 0; i < n; ++i) r.model(c->a.as<float>() + i * r.in, c->b.as<float>() + i * r.in, &c->expect[size_t(i) * r.out]);
+  for (int32_t i = 0; i < n; ++i)
+    r.model(c->a.as<float>() + i * r.in, c->b.as<float>() + i * r.in, &c->expect[size_t(i) * r.out]);
   gBatch = std::move(c);
   gOf = &r;
   return *gBatch;
@@ -211,7 +217,8 @@ bool verified(const Batch& c, const Contender& k) {
   k.call(c);
   const float* d = c.d.as<float>();
   for (size_t i = 0; i < c.expect.size(); ++i) {
-    const bool ok = k.tarn ? std::memcmp(d + i, &c.expect[i], 4) == 0 : std::fabs(d[i] - c.expect[i]) <= 1e-5f * (1 + std::fabs(c.expect[i]));
+    const bool ok = k.tarn ? std::memcmp(d + i, &c.expect[i], 4) == 0
+                           : std::fabs(d[i] - c.expect[i]) <= 1e-5f * (1 + std::fabs(c.expect[i]));
     if (!ok) return false;
   }
   return true;
@@ -237,7 +244,8 @@ const bool kRegistered = [] {
       for (const Contender& k : r.contenders)
         for (int t : {1, 2}) {
           if (!k.tarn && !k.memref && t > 1) continue;
-          const std::string name = std::string(r.name) + "/N:" + std::to_string(n) + "/" + k.name + "/T:" + std::to_string(t);
+          const std::string name =
+              std::string(r.name) + "/N:" + std::to_string(n) + "/" + k.name + "/T:" + std::to_string(t);
           tarnbench::registerBench(name, [&r, &k, n, t](benchmark::State& st) { run(st, r, k, n, t); });
         }
   return true;

@@ -80,7 +80,8 @@ int32_t lanes(const A& a, const B& b, const BV& single, float* d, int32_t count)
       const float* pb = nullptr;
       __m128 rep[3];
       if constexpr (Vav) {
-        const float b0 = reduce::elem(single.obj(0), 0), b1 = reduce::elem(single.obj(0), 1), b2 = reduce::elem(single.obj(0), 2);
+        const float b0 = reduce::elem(single.obj(0), 0), b1 = reduce::elem(single.obj(0), 1),
+                    b2 = reduce::elem(single.obj(0), 2);
         rep[0] = simd::constant(b0, b1, b2, b0);
         rep[1] = simd::constant(b1, b2, b0, b1);
         rep[2] = simd::constant(b2, b0, b1, b2);
@@ -93,7 +94,8 @@ int32_t lanes(const A& a, const B& b, const BV& single, float* d, int32_t count)
         if constexpr (!Vav) reduce::readAhead(b, n);
         __m128 p[3], x, y, z;
         for (int k = 0; k < 3; ++k)
-          p[k] = simd::mul(simd::load<4, false>(pa0 + 3 * ptrdiff_t(n) + 4 * k), Vav ? rep[k] : simd::load<4, false>(pb + 3 * ptrdiff_t(n) + 4 * k));
+          p[k] = simd::mul(simd::load<4, false>(pa0 + 3 * ptrdiff_t(n) + 4 * k),
+                           Vav ? rep[k] : simd::load<4, false>(pb + 3 * ptrdiff_t(n) + 4 * k));
         simd::deinterleave3(p[0], p[1], p[2], x, y, z);
         simd::store<4, false>(d + n, simd::add(simd::add(x, y), z));
       });

@@ -85,7 +85,8 @@ float general32(const V& v, int32_t w, int32_t h) {
   } else {
     for (int32_t r = 0; r < h; ++r) {
       auto at = [&](int32_t i) { return v.at(r, i); };
-      if constexpr (Contig) blocksThenSingles(acc, 0, w, at, [&](int32_t k) { return simd::load<4, false>(v.rowPtr(r) + k); });
+      if constexpr (Contig)
+        blocksThenSingles(acc, 0, w, at, [&](int32_t k) { return simd::load<4, false>(v.rowPtr(r) + k); });
       else blocksThenSingles(acc, 0, w, at, gathered(at));
     }
   }

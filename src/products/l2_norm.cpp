@@ -42,7 +42,8 @@ int32_t lanes(const A& a, float* d, int32_t count) {
   return reduce::inBlocks(count, [&](int32_t n, bool last) {
     reduce::readAhead(a, n);
     Quad<N> x;
-    if constexpr (N == 3 && std::is_same_v<A, ArrS<const float, true>>) x = packed ? reduce::quadPacked3(a, n) : reduce::quadRow<N>(a, n, 0, last);
+    if constexpr (N == 3 && std::is_same_v<A, ArrS<const float, true>>)
+      x = packed ? reduce::quadPacked3(a, n) : reduce::quadRow<N>(a, n, 0, last);
     else x = reduce::quadRow<N>(a, n, 0, last);
     __m128 s[N];
     for (int k = 0; k < N; ++k) s[k] = simd::mul(x.v[k], x.v[k]);

@@ -155,7 +155,8 @@ inline Quad<N> quadRow(const ArrS<const float, true>& a, int32_t n, int32_t r, b
   const float* p1 = byteAdd(p0, a.objStride);
   const float* p2 = byteAdd(p1, a.objStride);
   const float* p3 = byteAdd(p2, a.objStride);
-  return transposed<N>(simd::load<4, false>(p0), simd::load<4, false>(p1), simd::load<4, false>(p2), rowLoad<N>(p3, last));
+  return transposed<N>(simd::load<4, false>(p0), simd::load<4, false>(p1), simd::load<4, false>(p2),
+                       rowLoad<N>(p3, last));
 }
 // Row r of objects n..n+3 of a LayoutL array.
 template <int N>
@@ -168,7 +169,8 @@ inline Quad<N> quadRow(const ArrL<const float, true>& a, int32_t n, int32_t r, b
 inline Quad<3> quadPacked3(const ArrS<const float, true>& a, int32_t n) {
   const float* p = a.obj(n).p;
   Quad<3> q;
-  simd::deinterleave3(simd::load<4, false>(p), simd::load<4, false>(p + 4), simd::load<4, false>(p + 8), q.v[0], q.v[1], q.v[2]);
+  simd::deinterleave3(simd::load<4, false>(p), simd::load<4, false>(p + 4), simd::load<4, false>(p + 8), q.v[0], q.v[1],
+                      q.v[2]);
   return q;
 }
 

@@ -102,7 +102,8 @@ Outcome runCase(const MemberFn& m, const Shape& sh, int count, const Style& st, 
       for (int k = 0; k < per; ++k) bits.push_back(cross ? res.bits(n, 0, k) : res.bits(0, 0, n));
     why += fx.untouched(alias >= 0 ? std::vector<int>{alias} : std::vector<int>{});
     if (!out.bits.empty()) {
-      if (bits != out.bits) why += "threads " + std::to_string(t) + " differ from threads " + std::to_string(threads[0]) + "; ";
+      if (bits != out.bits)
+        why += "threads " + std::to_string(t) + " differ from threads " + std::to_string(threads[0]) + "; ";
       continue;
     }
     out.bits = bits;
@@ -112,11 +113,12 @@ Outcome runCase(const MemberFn& m, const Shape& sh, int count, const Style& st, 
       auto v = [&](int i, int r, int c) { return fx.before(i).get(at(i), r, c); };
       auto addr = [&](int i) { return uint64_t(reinterpret_cast<uintptr_t>(fx.block(i).at(at(i), 0, 0))); };
       std::vector<uint64_t> want;
-      if (nm.esize == 4)
-        for (float x : model<float>(nm, contig, sh, a, [&](int i, int r, int c) { return float(v(i, r, c)); }, addr))
-          want.push_back(bitsOf(x, 4));
-      else
+      if (nm.esize == 4) {
+        auto vf = [&](int i, int r, int c) { return float(v(i, r, c)); };
+        for (float x : model<float>(nm, contig, sh, a, vf, addr)) want.push_back(bitsOf(x, 4));
+      } else {
         for (double x : model<double>(nm, contig, sh, a, v, addr)) want.push_back(bitsOf(x, 8));
+      }
       for (int k = 0; k < per; ++k)
         if (!sameBits(bits[size_t(n * per + k)], want[size_t(k)], nm.esize) && bad++ < 3)
           why += "object " + std::to_string(n) + "[" + std::to_string(k) + "] want " +
@@ -136,12 +138,15 @@ struct Family {
   std::vector<Shape> shapes;
 };
 // Fixed bodies, the lengths around them, whole and partial steps of 8 behind every peel.
-const std::vector<Shape> kVectors = {{1, 1}, {1, 2}, {1, 3}, {1, 4}, {1, 5}, {1, 6}, {1, 7}, {1, 8}, {1, 9}, {1, 12}, {1, 17}, {1, 35}};
+const std::vector<Shape> kVectors = {{1, 1}, {1, 2}, {1, 3}, {1, 4},  {1, 5},  {1, 6},
+                                     {1, 7}, {1, 8}, {1, 9}, {1, 12}, {1, 17}, {1, 35}};
+const std::vector<Shape> kMatrices = {{1, 1}, {2, 2}, {3, 3}, {4, 4},  {5, 5},  {6, 6}, {7, 7},
+                                      {3, 4}, {4, 3}, {1, 13}, {13, 1}, {2, 9}, {11, 3}};
 const Family kFamilies[] = {
     {"DotProduct", 16, kVectors},
     {"CrossProduct", 22, {{1, 3}}},
     {"L2Norm", 10, kVectors},
-    {"FrobNorm", 10, {{1, 1}, {2, 2}, {3, 3}, {4, 4}, {5, 5}, {6, 6}, {7, 7}, {3, 4}, {4, 3}, {1, 13}, {13, 1}, {2, 9}, {11, 3}}},
+    {"FrobNorm", 10, kMatrices},
     {"Trace", 10, {{1, 1}, {2, 2}, {3, 3}, {4, 4}, {5, 5}, {6, 6}, {7, 7}, {8, 8}}},
 };
 
@@ -232,8 +237,11 @@ TEST(Reductions, ThreadCountsGiveIdenticalBits) {
     Shape sh;
     int count;
   };
-  const Run runs[] = {{"DotProduct", {1, 3}, 14001}, {"CrossProduct", {1, 3}, 20001}, {"L2Norm", {1, 3}, 7001},
-                      {"FrobNorm", {3, 3}, 4501},    {"Trace", {3, 3}, 14001}};
+  const Run runs[] = {{"DotProduct", {1, 3}, 14001},
+                      {"CrossProduct", {1, 3}, 20001},
+                      {"L2Norm", {1, 3}, 7001},
+                      {"FrobNorm", {3, 3}, 4501},
+                      {"Trace", {3, 3}, 14001}};
   for (const Run& r : runs)
     for (const MemberFn* m : membersOf(r.family)) {
       if (parseName(m->name).pattern.find('a') == std::string::npos) continue;
@@ -270,13 +278,16 @@ TEST(Reductions, RegionFromTheThresholdOfThePathOn) {
       const bool f32 = nm.esize == 4, never = std::string(m->name) == "tarnCrossProduct_vva_64f_P";
       for (bool contig : {true, false}) {
         if (nm.layout == 'P' && !contig) continue;
-        const int32_t thr = nm.layout == 'P' ? (f32 ? l.p32 : l.p64)
+        const int32_t thr = nm.layout == 'P'   ? (f32 ? l.p32 : l.p64)
                             : nm.layout == 'S' ? (contig ? l.sC : l.sG)
-                            : f32 ? (contig ? l.l32C : l.l32G) : (contig ? l.l64C : l.l64G);
+                            : f32              ? (contig ? l.l32C : l.l32G)
+                                               : (contig ? l.l64C : l.l64G);
         const int count = int((thr - l.fixed + l.perObject - 1) / l.perObject);  // first E >= thr
         ASSERT_LT(l.perObject * count + l.fixed - thr, l.perObject);
         const Style& st = style(contig ? "packed" : "strided");
-        auto regions = [&](int n) { return regionsOpenedBy([&] { runCase(*m, {1, 1}, n, st, {2}, 1, false, -1, false); }); };
+        auto regions = [&](int n) {
+          return regionsOpenedBy([&] { runCase(*m, {1, 1}, n, st, {2}, 1, false, -1, false); });
+        };
         EXPECT_EQ(regions(count - 1), 0) << m->name << (contig ? " contiguous" : " general");
         EXPECT_EQ(regions(count), never ? 0 : 1) << m->name << (contig ? " contiguous" : " general");
         ++checked;

@@ -122,7 +122,7 @@ struct FrobInput {
   std::vector<std::vector<T>> s;  // squares, row by row
   bool table = false;             // LayoutP
   int64_t rowStride = 0, elemStride = 0;
-  uint64_t addr = 0;              // element (0, 0)
+  uint64_t addr = 0;  // element (0, 0)
 };
 
 // 32f: one accumulator of four lanes from zero, reduced (l0 + l2) + (l1 + l3).
