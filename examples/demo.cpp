@@ -1,10 +1,11 @@
-// tarn at work on a realistic batch: a million 3x3 and 4x4 matrices and 3-vectors, summed,
-// scaled, multiplied and converted between layouts, on one thread and on all of them, each
-// checked against a plain loop and timed.
+// tarn at work on a realistic batch: a million 3x3 and 4x4 matrices and 3-vectors, summed in
+// each layout, scaled, multiplied, reduced to dot products and norms and converted between
+// layouts, on one thread and on all of them, each checked against a plain loop and timed.
 #include <omp.h>
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <functional>
@@ -103,6 +104,8 @@ int main() {
   };
   // One fixed offset matrix added to every object.
   const float offset[9] = {0.5f, -1.25f, 2.0f, 3.5f, 0.0f, -7.0f, 1e-3f, 42.0f, -0.75f};
+  // One result per object for the reductions.
+  std::vector<float> perObject(kN), perObjectExpect(kN);
   // Scalars with many significant bits, so every product is rounded.
   const float kScale1 = 0.3f, kScale2 = -1.7f;
 
@@ -166,6 +169,51 @@ int main() {
       {"Mul_mam 4x4 by one, LayoutS", 64.0 * 2, [&] { productLoop(m4, 4, true); },
        [&] { return tarnMul_mam_32f(m4.a.data(), 64, 16, 4, 4, 4, m4.b.data(), 16, 4, 4, 4, m4.d.data(), 64, 16, 4, kN); },
        [&] { return sameBits(m4.d, m4.expect); }},
+      // Reductions of 3-vectors and 3x3 matrices, as a physics or point-cloud program runs them:
+      // tarn puts four objects into the lanes of a register, each lane adding in the order the
+      // loop below writes out.
+      {"DotProduct_vava 3-vectors", 12.0 * 2 + 4,
+       [&] {
+         for (int n = 0; n < kN; ++n) {
+           const float* x = &v3.a[size_t(n) * 3];
+           const float* y = &v3.b[size_t(n) * 3];
+           perObjectExpect[n] = (x[0] * y[0] + x[1] * y[1]) + x[2] * y[2];
+         }
+       },
+       [&] { return tarnDotProduct_vava_32f(v3.a.data(), 12, 4, v3.b.data(), 12, 4, perObject.data(), 3, kN); },
+       [&] { return sameBits(perObject, perObjectExpect); }},
+      {"L2Norm_va 3-vectors", 12.0 + 4,
+       [&] {
+         for (int n = 0; n < kN; ++n) {
+           const float* x = &v3.a[size_t(n) * 3];
+           perObjectExpect[n] = std::sqrt((x[0] * x[0] + x[1] * x[1]) + x[2] * x[2]);
+         }
+       },
+       [&] { return tarnL2Norm_va_32f(v3.a.data(), 12, 4, perObject.data(), 3, kN); },
+       [&] { return sameBits(perObject, perObjectExpect); }},
+      {"CrossProduct_vava 3-vectors", 12.0 * 3,
+       [&] {
+         for (int n = 0; n < kN; ++n) {
+           const float* x = &v3.a[size_t(n) * 3];
+           const float* y = &v3.b[size_t(n) * 3];
+           float* z = &v3.expect[size_t(n) * 3];
+           z[0] = x[1] * y[2] - x[2] * y[1];
+           z[1] = x[2] * y[0] - x[0] * y[2];
+           z[2] = x[0] * y[1] - x[1] * y[0];
+         }
+       },
+       [&] { return tarnCrossProduct_vava_32f(v3.a.data(), 12, 4, v3.b.data(), 12, 4, v3.d.data(), 12, 4, kN); },
+       [&] { return sameBits(v3.d, v3.expect); }},
+      {"FrobNorm_ma 3x3", 36.0 + 4,
+       [&] {
+         for (int n = 0; n < kN; ++n) {
+           float q[9];
+           for (int e = 0; e < 9; ++e) q[e] = m3.a[size_t(n) * 9 + e] * m3.a[size_t(n) * 9 + e];
+           perObjectExpect[n] = std::sqrt((((q[0] + q[1]) + q[8]) + (q[2] + q[3])) + ((q[4] + q[5]) + (q[6] + q[7])));
+         }
+       },
+       [&] { return tarnFrobNorm_ma_32f(m3.a.data(), 36, 12, 4, 3, 3, perObject.data(), kN); },
+       [&] { return sameBits(perObject, perObjectExpect); }},
       // Layout conversion: the nine element streams of the LayoutP batch gathered into packed
       // 3x3 matrices, then scattered back into fresh streams.
       {"Copy 3x3 LayoutP -> LayoutS", 36.0 * 2,

@@ -175,6 +175,48 @@ tarnStatus tarnCopy_va_64f_SL(const double* src, int32_t srcObjStride, int32_t s
 tarnStatus tarnCopy_va_64f_SP(const double* src, int32_t srcObjStride, int32_t srcElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t len, int32_t count);
 tarnStatus tarnCopy_va_64f_SS(const double* src, int32_t srcObjStride, int32_t srcElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
 
+/** dst = src1 x src2 of 3-element vectors: each product rounded, then the difference; an object is read whole before it is written. */
+tarnStatus tarnCrossProduct_vav_32f(const float* src1, int32_t src1ObjStride, int32_t src1ElemStride, const float* src2, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+tarnStatus tarnCrossProduct_vav_32f_L(const float* const* src1, int32_t src1RoiShift, int32_t src1ElemStride, const float* src2, int32_t src2ElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t count);
+tarnStatus tarnCrossProduct_vav_32f_P(const float* const* src1, int32_t src1RoiShift, int32_t src1ObjStride, const float* const* src2, int32_t src2RoiShift, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t count);
+tarnStatus tarnCrossProduct_vav_64f(const double* src1, int32_t src1ObjStride, int32_t src1ElemStride, const double* src2, int32_t src2ElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+tarnStatus tarnCrossProduct_vav_64f_L(const double* const* src1, int32_t src1RoiShift, int32_t src1ElemStride, const double* src2, int32_t src2ElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t count);
+tarnStatus tarnCrossProduct_vav_64f_P(const double* const* src1, int32_t src1RoiShift, int32_t src1ObjStride, const double* const* src2, int32_t src2RoiShift, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t count);
+tarnStatus tarnCrossProduct_vava_32f(const float* src1, int32_t src1ObjStride, int32_t src1ElemStride, const float* src2, int32_t src2ObjStride, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+tarnStatus tarnCrossProduct_vava_32f_L(const float* const* src1, int32_t src1RoiShift, int32_t src1ElemStride, const float* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t count);
+tarnStatus tarnCrossProduct_vava_32f_P(const float* const* src1, int32_t src1RoiShift, int32_t src1ObjStride, const float* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t count);
+tarnStatus tarnCrossProduct_vava_64f(const double* src1, int32_t src1ObjStride, int32_t src1ElemStride, const double* src2, int32_t src2ObjStride, int32_t src2ElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+tarnStatus tarnCrossProduct_vava_64f_L(const double* const* src1, int32_t src1RoiShift, int32_t src1ElemStride, const double* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t count);
+tarnStatus tarnCrossProduct_vava_64f_P(const double* const* src1, int32_t src1RoiShift, int32_t src1ObjStride, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t count);
+tarnStatus tarnCrossProduct_vv_32f(const float* src1, int32_t src1ElemStride, const float* src2, int32_t src2ElemStride, float* dst, int32_t dstElemStride);
+tarnStatus tarnCrossProduct_vv_32f_P(const float* const* src1, int32_t src1RoiShift, const float* const* src2, int32_t src2RoiShift, float* const* dst, int32_t dstRoiShift);
+tarnStatus tarnCrossProduct_vv_64f(const double* src1, int32_t src1ElemStride, const double* src2, int32_t src2ElemStride, double* dst, int32_t dstElemStride);
+tarnStatus tarnCrossProduct_vv_64f_P(const double* const* src1, int32_t src1RoiShift, const double* const* src2, int32_t src2RoiShift, double* const* dst, int32_t dstRoiShift);
+tarnStatus tarnCrossProduct_vva_32f(const float* src1, int32_t src1ElemStride, const float* src2, int32_t src2ObjStride, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+tarnStatus tarnCrossProduct_vva_32f_L(const float* src1, int32_t src1ElemStride, const float* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t count);
+tarnStatus tarnCrossProduct_vva_32f_P(const float* const* src1, int32_t src1RoiShift, const float* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t count);
+tarnStatus tarnCrossProduct_vva_64f(const double* src1, int32_t src1ElemStride, const double* src2, int32_t src2ObjStride, int32_t src2ElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+tarnStatus tarnCrossProduct_vva_64f_L(const double* src1, int32_t src1ElemStride, const double* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t count);
+tarnStatus tarnCrossProduct_vva_64f_P(const double* const* src1, int32_t src1RoiShift, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t count);
+
+/** dst = sum of src1[k]*src2[k] per pair of vectors, one result element per object; the order of the additions depends on the length, the path and, for long contiguous vectors, the address of src2. */
+tarnStatus tarnDotProduct_vav_32f(const float* src1, int32_t src1ObjStride, int32_t src1ElemStride, const float* src2, int32_t src2ElemStride, float* dst, int32_t len, int32_t count);
+tarnStatus tarnDotProduct_vav_32f_L(const float* const* src1, int32_t src1RoiShift, int32_t src1ElemStride, const float* src2, int32_t src2ElemStride, float* dst, int32_t len, int32_t count);
+tarnStatus tarnDotProduct_vav_32f_P(const float* const* src1, int32_t src1RoiShift, int32_t src1ObjStride, const float* const* src2, int32_t src2RoiShift, float* dst, int32_t len, int32_t count);
+tarnStatus tarnDotProduct_vav_64f(const double* src1, int32_t src1ObjStride, int32_t src1ElemStride, const double* src2, int32_t src2ElemStride, double* dst, int32_t len, int32_t count);
+tarnStatus tarnDotProduct_vav_64f_L(const double* const* src1, int32_t src1RoiShift, int32_t src1ElemStride, const double* src2, int32_t src2ElemStride, double* dst, int32_t len, int32_t count);
+tarnStatus tarnDotProduct_vav_64f_P(const double* const* src1, int32_t src1RoiShift, int32_t src1ObjStride, const double* const* src2, int32_t src2RoiShift, double* dst, int32_t len, int32_t count);
+tarnStatus tarnDotProduct_vava_32f(const float* src1, int32_t src1ObjStride, int32_t src1ElemStride, const float* src2, int32_t src2ObjStride, int32_t src2ElemStride, float* dst, int32_t len, int32_t count);
+tarnStatus tarnDotProduct_vava_32f_L(const float* const* src1, int32_t src1RoiShift, int32_t src1ElemStride, const float* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, float* dst, int32_t len, int32_t count);
+tarnStatus tarnDotProduct_vava_32f_P(const float* const* src1, int32_t src1RoiShift, int32_t src1ObjStride, const float* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, float* dst, int32_t len, int32_t count);
+tarnStatus tarnDotProduct_vava_64f(const double* src1, int32_t src1ObjStride, int32_t src1ElemStride, const double* src2, int32_t src2ObjStride, int32_t src2ElemStride, double* dst, int32_t len, int32_t count);
+tarnStatus tarnDotProduct_vava_64f_L(const double* const* src1, int32_t src1RoiShift, int32_t src1ElemStride, const double* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, double* dst, int32_t len, int32_t count);
+tarnStatus tarnDotProduct_vava_64f_P(const double* const* src1, int32_t src1RoiShift, int32_t src1ObjStride, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, double* dst, int32_t len, int32_t count);
+tarnStatus tarnDotProduct_vv_32f(const float* src1, int32_t src1ElemStride, const float* src2, int32_t src2ElemStride, float* dst, int32_t len);
+tarnStatus tarnDotProduct_vv_32f_P(const float* const* src1, int32_t src1RoiShift, const float* const* src2, int32_t src2RoiShift, float* dst, int32_t len);
+tarnStatus tarnDotProduct_vv_64f(const double* src1, int32_t src1ElemStride, const double* src2, int32_t src2ElemStride, double* dst, int32_t len);
+tarnStatus tarnDotProduct_vv_64f_P(const double* const* src1, int32_t src1RoiShift, const double* const* src2, int32_t src2RoiShift, double* dst, int32_t len);
+
 /** Gathers an operand into one dense buffer, row by row; a t operand arrives transposed. */
 tarnStatus tarnExtract_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, float* dst, int32_t width, int32_t height);
 tarnStatus tarnExtract_m_32f_P(const float* const* src, int32_t srcRoiShift, float* dst, int32_t width, int32_t height);
@@ -207,8 +249,32 @@ tarnStatus tarnExtract_va_64f(const double* src, int32_t srcObjStride, int32_t s
 tarnStatus tarnExtract_va_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcElemStride, double* dst, int32_t len, int32_t count);
 tarnStatus tarnExtract_va_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* dst, int32_t len, int32_t count);
 
+/** dst = the square root of the sum of squares of the elements of each matrix, without scaling. */
+tarnStatus tarnFrobNorm_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, float* dst);
+tarnStatus tarnFrobNorm_m_32f_P(const float* const* src, int32_t srcRoiShift, int32_t width, int32_t height, float* dst);
+tarnStatus tarnFrobNorm_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, double* dst);
+tarnStatus tarnFrobNorm_m_64f_P(const double* const* src, int32_t srcRoiShift, int32_t width, int32_t height, double* dst);
+tarnStatus tarnFrobNorm_ma_32f(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, float* dst, int32_t count);
+tarnStatus tarnFrobNorm_ma_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, float* dst, int32_t count);
+tarnStatus tarnFrobNorm_ma_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, int32_t width, int32_t height, float* dst, int32_t count);
+tarnStatus tarnFrobNorm_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, double* dst, int32_t count);
+tarnStatus tarnFrobNorm_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, double* dst, int32_t count);
+tarnStatus tarnFrobNorm_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, int32_t width, int32_t height, double* dst, int32_t count);
+
 /** Returns the constant version record of the library. */
 const tarnLibraryVersion* tarnGetLibVersion(void);
+
+/** dst = the square root of the sum of squares of each vector, without scaling: overflow gives infinity. */
+tarnStatus tarnL2Norm_v_32f(const float* src, int32_t srcElemStride, float* dst, int32_t len);
+tarnStatus tarnL2Norm_v_32f_P(const float* const* src, int32_t srcRoiShift, float* dst, int32_t len);
+tarnStatus tarnL2Norm_v_64f(const double* src, int32_t srcElemStride, double* dst, int32_t len);
+tarnStatus tarnL2Norm_v_64f_P(const double* const* src, int32_t srcRoiShift, double* dst, int32_t len);
+tarnStatus tarnL2Norm_va_32f(const float* src, int32_t srcObjStride, int32_t srcElemStride, float* dst, int32_t len, int32_t count);
+tarnStatus tarnL2Norm_va_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcElemStride, float* dst, int32_t len, int32_t count);
+tarnStatus tarnL2Norm_va_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* dst, int32_t len, int32_t count);
+tarnStatus tarnL2Norm_va_64f(const double* src, int32_t srcObjStride, int32_t srcElemStride, double* dst, int32_t len, int32_t count);
+tarnStatus tarnL2Norm_va_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcElemStride, double* dst, int32_t len, int32_t count);
+tarnStatus tarnL2Norm_va_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* dst, int32_t len, int32_t count);
 
 /** dst = src1*val1 + src2*val2 per element: both products and the sum each rounded, never fused. */
 tarnStatus tarnLComb_vav_32f(const float* src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1, const float* src2, int32_t src2ElemStride, float val2, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
@@ -506,6 +572,18 @@ tarnStatus tarnSub_vva_32f_P(const float* const* src1, int32_t src1RoiShift, con
 tarnStatus tarnSub_vva_64f(const double* src1, int32_t src1ElemStride, const double* src2, int32_t src2ObjStride, int32_t src2ElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
 tarnStatus tarnSub_vva_64f_L(const double* src1, int32_t src1ElemStride, const double* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t len, int32_t count);
 tarnStatus tarnSub_vva_64f_P(const double* const* src1, int32_t src1RoiShift, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t len, int32_t count);
+
+/** dst = the sum of the diagonal elements of each square matrix, diagonal element 0 first. */
+tarnStatus tarnTrace_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, float* dst);
+tarnStatus tarnTrace_m_32f_P(const float* const* src, int32_t srcRoiShift, int32_t widthHeight, float* dst);
+tarnStatus tarnTrace_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, double* dst);
+tarnStatus tarnTrace_m_64f_P(const double* const* src, int32_t srcRoiShift, int32_t widthHeight, double* dst);
+tarnStatus tarnTrace_ma_32f(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, float* dst, int32_t count);
+tarnStatus tarnTrace_ma_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, float* dst, int32_t count);
+tarnStatus tarnTrace_ma_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, int32_t widthHeight, float* dst, int32_t count);
+tarnStatus tarnTrace_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, double* dst, int32_t count);
+tarnStatus tarnTrace_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, double* dst, int32_t count);
+tarnStatus tarnTrace_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, int32_t widthHeight, double* dst, int32_t count);
 
 /** Writes the transpose of each matrix: dst has width rows and height columns. */
 tarnStatus tarnTranspose_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, float* dst, int32_t dstRowStride, int32_t dstElemStride);

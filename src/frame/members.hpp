@@ -151,6 +151,19 @@ inline constexpr Thr kSaxpy = thr(40001, 40001, 40001);
 inline constexpr Thr kLComb32{20001, 20001, 40001, 20001, 20001}, kLComb64 = thr(20001, 20001, 20001);
 inline constexpr Thr kMul{36865, 18433, 18433, 18433, 9217};
 
+// Reductions.
+inline constexpr std::string_view
+    kArgsDot = "src1:op1 src2:op2 dst:scalar len count",
+    kArgsCross = "src1:op1 src2:op2 dst:vec count",
+    kArgsL2 = "src:op1 dst:scalar len count",
+    kArgsFrob = "src:op1 width height dst:scalar count",
+    kArgsTrace = "src:op1 widthHeight dst:scalar count";
+inline constexpr Thr kDot32{40001, 20001, 40001, 20001, 20001}, kDot64{40001, 20001, 40001, 20001, 40001};
+inline constexpr Thr kCrossOne32 = thr(20000, 40000, 20000), kCrossOne64 = thr(20000, 20000, 20000);
+inline constexpr Thr kCrossTwo32 = thr(20001, 40001, 20001), kCrossTwo64 = thr(20001, 20001, 20001);
+// FrobNorm and Trace 32f start later on the contiguous LayoutL path only.
+inline constexpr Thr kReduce = thr(20001, 20001, 20001), kReduceL32{20001, 20001, 40001, 20001, 20001};
+
 // clang-format off
 inline constexpr Row kRows[] = {
   {.family = "GetLibVersion", .impl = "version", .forms = Forms::Version},
@@ -249,6 +262,24 @@ inline constexpr Row kRows[] = {
   {"LoadIdentity", "ma", "load_identity", kArgsFill, "NZCEO", "NZCER", "NZCRO"},
   {"Transpose", "m", "transpose", kArgsTranspose, "NZT", "", "NZR"},
   {"Transpose", "ma", "transpose", kArgsTranspose, "NCZT", "NCZTR", "NCZTR"},
+
+  // Reductions: one scalar per object in a plain result array (DotProduct, L2Norm, FrobNorm,
+  // Trace), and CrossProduct, whose vectors always have 3 elements and which has no size to
+  // check: its count and stride checks change places by operand form, and its estimate counts
+  // objects only, tested before contiguity against one threshold.
+  {"DotProduct", "vv", "dot_product", kArgsDot, "NZT", "", "NZR"},
+  {"DotProduct", "vav", "dot_product", kArgsDot, "NCZT", "NCZTR", "NCZTR", "(count+1)*len", kDot32, kDot64},
+  {"DotProduct", "vava", "dot_product", kArgsDot, "NCZT", "NCZTR", "NCZTR", "2*len*count", kDot32, kDot64},
+  {"CrossProduct", "vv", "cross_product", kArgsCross, "NT", "", "NR"},
+  {"CrossProduct", "vav", "cross_product", kArgsCross, "NTC", "NTRC", "NTCR", "2*count", kCrossOne32, kCrossOne64},
+  {"CrossProduct", "vva", "cross_product", kArgsCross, "NCT", "NCTR", "NCTR", "2*count", kCrossOne32, kCrossOne64},
+  {"CrossProduct", "vava", "cross_product", kArgsCross, "NCT", "NCTR", "NCTR", "3*count", kCrossTwo32, kCrossTwo64},
+  {"L2Norm", "v", "l2_norm", kArgsL2, "NZT", "", "NZR"},
+  {"L2Norm", "va", "l2_norm", kArgsL2, "NCZT", "NCZTR", "NCZTR", "len*count", kReduce, kReduce},
+  {"FrobNorm", "m", "frob_norm", kArgsFrob, "NZT", "", "NZR"},
+  {"FrobNorm", "ma", "frob_norm", kArgsFrob, "NCZT", "NCZTR", "NCZTR", "width*height*count", kReduceL32, kReduce},
+  {"Trace", "m", "trace", kArgsTrace, "NZT", "", "NZR"},
+  {"Trace", "ma", "trace", kArgsTrace, "NCZT", "NCZTR", "NCZTR", "widthHeight*count", kReduceL32, kReduce},
 };
 
 inline constexpr FamilyDoc kDocs[] = {
@@ -262,6 +293,11 @@ inline constexpr FamilyDoc kDocs[] = {
   {"Extract", "Gathers an operand into one dense buffer, row by row; a t operand arrives transposed."},
   {"LoadIdentity", "Fills every matrix of the array with ones on the main diagonal and zeros elsewhere."},
   {"Transpose", "Writes the transpose of each matrix: dst has width rows and height columns."},
+  {"DotProduct", "dst = sum of src1[k]*src2[k] per pair of vectors, one result element per object; the order of the additions depends on the length, the path and, for long contiguous vectors, the address of src2."},
+  {"CrossProduct", "dst = src1 x src2 of 3-element vectors: each product rounded, then the difference; an object is read whole before it is written."},
+  {"L2Norm", "dst = the square root of the sum of squares of each vector, without scaling: overflow gives infinity."},
+  {"FrobNorm", "dst = the square root of the sum of squares of the elements of each matrix, without scaling."},
+  {"Trace", "dst = the sum of the diagonal elements of each square matrix, diagonal element 0 first."},
 };
 
 inline constexpr Fixed kFixed[] = {
@@ -276,6 +312,7 @@ inline constexpr Override kOverrides[] = {
   {"tarnCopy_va_32f_SP", "NZCREO"},
   {"tarnExtract_v_32f_P", "NZR"},    // pointers before the size, unlike its siblings
   {"tarnLoadIdentity_ma_32f_P", "NZRCO"},  // the shift before the count, unlike the 64f twin
+  {"tarnCrossProduct_vva_64f_P", {}, true},  // no wrapper: serial however large E is
 };
 // clang-format on
 

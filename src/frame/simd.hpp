@@ -189,3 +189,64 @@ inline void storeRows3x3(float* p, const __m128 r[3]) {
 }
 
 }  // namespace tarn::simd
+
+// ---- Reductions -------------------------------------------------------------------------------
+// Horizontal sums in a fixed order, lane-0 arithmetic for scalar terms of a vector accumulator,
+// square roots, and the loads that put four objects of 3 or 4 floats into lanes by object.
+namespace tarn::simd {
+
+// (l0 + l2) + (l1 + l3).
+inline float sumLanes(__m128 v) {
+  const __m128 t = _mm_add_ps(v, _mm_movehl_ps(v, v));
+  return _mm_cvtss_f32(_mm_add_ss(t, _mm_shuffle_ps(t, t, 1)));
+}
+// l0 + l1.
+inline double sumLanes(__m128d v) { return _mm_cvtsd_f64(_mm_add_sd(v, _mm_unpackhi_pd(v, v))); }
+
+// v with x added to lane 0; the other lanes unchanged.
+inline __m128 addLane0(__m128 v, float x) { return _mm_add_ss(v, _mm_set_ss(x)); }
+inline __m128d addLane0(__m128d v, double x) { return _mm_add_sd(v, _mm_set_sd(x)); }
+// Asks for the cache line of p ahead of its use; never faults, whatever p is.
+inline void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_T0); }
+// (a0 + a1, a2 + a3, b0 + b1, b2 + b3).
+inline __m128 hadd(__m128 a, __m128 b) { return _mm_hadd_ps(a, b); }
+inline __m128d zeroDoubles() { return _mm_setzero_pd(); }
+// Lane 0 and lane 1 of a pair.
+inline double low(__m128d v) { return _mm_cvtsd_f64(v); }
+inline double high(__m128d v) { return _mm_cvtsd_f64(_mm_unpackhi_pd(v, v)); }
+// x in lane 0, zeros elsewhere.
+inline __m128 lane0(float x) { return _mm_set_ss(x); }
+inline __m128d lane0(double x) { return _mm_set_sd(x); }
+
+// The correctly rounded square root, one lane or every lane.
+inline float sqrtOf(float x) { return _mm_cvtss_f32(_mm_sqrt_ss(_mm_set_ss(x))); }
+inline double sqrtOf(double x) { return _mm_cvtsd_f64(_mm_sqrt_sd(_mm_setzero_pd(), _mm_set_sd(x))); }
+inline __m128 sqrtLanes(__m128 v) { return _mm_sqrt_ps(v); }
+
+// Three floats (x, y, z, 0) with an 8-byte and a 4-byte load: nothing behind p[2] is read.
+inline __m128 load3(const float* p) {
+  return _mm_movelh_ps(_mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p))), _mm_load_ss(p + 2));
+}
+
+// Four packed 3-vectors (48 bytes as a, b, c) into lanes by object: x, y, z of objects 0..3.
+inline void deinterleave3(__m128 a, __m128 b, __m128 c, __m128& x, __m128& y, __m128& z) {
+  // a = x0 y0 z0 x1, b = y1 z1 x2 y2, c = z2 x3 y3 z3
+  const __m128 m = _mm_shuffle_ps(b, c, _MM_SHUFFLE(2, 1, 3, 2));  // x2 y2 x3 y3
+  const __m128 n = _mm_shuffle_ps(a, b, _MM_SHUFFLE(1, 0, 2, 1));  // y0 z0 y1 z1
+  x = _mm_shuffle_ps(a, m, _MM_SHUFFLE(2, 0, 3, 0));
+  y = _mm_shuffle_ps(n, m, _MM_SHUFFLE(3, 1, 2, 0));
+  z = _mm_shuffle_ps(n, c, _MM_SHUFFLE(3, 0, 3, 1));
+}
+// A 3-vector as (x, 0, y, z): one 4-byte and one 8-byte load.
+inline __m128 loadX0YZ(const float* p) { return _mm_loadh_pi(_mm_load_ss(p), reinterpret_cast<const __m64*>(p + 1)); }
+// Lanes (0, 2, 3) of the result read lanes (2, 3, 0) of v.
+inline __m128 rotateX0YZ(__m128 v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(0, 3, 1, 2)); }
+// (v1, v2, v0, v3).
+inline __m128 rotateYZX(__m128 v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(3, 0, 2, 1)); }
+// Lanes 2 and 3 to p[0] and p[1], lane 0 to p[2].
+inline void storeYZX(float* p, __m128 v) {
+  _mm_storeh_pi(reinterpret_cast<__m64*>(p), v);
+  _mm_store_ss(p + 2, v);
+}
+
+}  // namespace tarn::simd

@@ -161,6 +161,24 @@ TEST(Validation, PinnedOrders) {
       {"tarnMul_mm_32f_P", [](Args& a) { a.op[1].h = 2; a.op[2].roi = 2; }, tarnStatusShapeMismatch},
       {"tarnMul_mm_32f_P", [](Args& a) { a.op[2].roi = 2; }, tarnStatusBadRoiShift},
       {"tarnMul_mam_32f", [](Args& a) { a.count = 1; a.op[0].obj = 2; }, tarnStatusBadStride},
+      // Reductions: the count before sizes; CrossProduct has no size, and its count and stride
+      // checks change places with the operand form.
+      {"tarnDotProduct_vav_32f", [](Args& a) { a.count = 0; a.len = 0; }, tarnStatusBadCount},
+      {"tarnDotProduct_vava_64f_P", [](Args& a) { a.len = 0; a.op[1].roi = -8; }, tarnStatusBadSize},
+      {"tarnL2Norm_va_32f_L", [](Args& a) { a.op[0].elem = 2; a.op[0].roi = 2; }, tarnStatusBadStride},
+      {"tarnTrace_ma_64f", [](Args& a) { a.count = 0; a.order = 0; }, tarnStatusBadCount},
+      {"tarnFrobNorm_m_32f_P", [](Args& a) { a.height = 0; a.op[0].roi = 2; }, tarnStatusBadSize},
+      {"tarnCrossProduct_vav_32f", [](Args& a) { a.count = 0; a.op[1].elem = 2; }, tarnStatusBadStride},
+      {"tarnCrossProduct_vva_32f", [](Args& a) { a.count = 0; a.op[1].elem = 2; }, tarnStatusBadCount},
+      {"tarnCrossProduct_vav_64f_L", [](Args& a) { a.count = 0; a.op[0].roi = 4; }, tarnStatusBadRoiShift},
+      {"tarnCrossProduct_vav_64f_L", [](Args& a) { a.op[0].roi = 4; a.op[2].elem = 4; }, tarnStatusBadStride},
+      {"tarnCrossProduct_vav_32f_P", [](Args& a) { a.count = 0; a.op[0].roi = 2; }, tarnStatusBadCount},
+      {"tarnCrossProduct_vav_32f_P", [](Args& a) { a.count = 0; a.op[2].obj = 2; }, tarnStatusBadStride},
+      {"tarnCrossProduct_vava_64f_L", [](Args& a) { a.count = 0; a.op[2].elem = 4; }, tarnStatusBadCount},
+      {"tarnCrossProduct_vva_32f_P", [](Args& a) { a.op[1].obj = 0; a.op[2].roi = -4; }, tarnStatusBadStride},
+      {"tarnCrossProduct_vv_64f_P", [](Args& a) { a.op[2].roi = 4; a.op[0].ptr = nullptr; }, tarnStatusNullPointer},
+      {"tarnCrossProduct_vv_64f_P", [](Args& a) { a.op[2].roi = 4; }, tarnStatusBadRoiShift},
+      {"tarnCrossProduct_vv_32f", [](Args& a) { a.count = 0; a.op[0].elem = 0; }, tarnStatusBadStride},
   };
   for (const Case& c : cases) {
     const MemberFn& m = member(c.name);
