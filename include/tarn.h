@@ -175,6 +175,18 @@ tarnStatus tarnCopy_va_64f_SL(const double* src, int32_t srcObjStride, int32_t s
 tarnStatus tarnCopy_va_64f_SP(const double* src, int32_t srcObjStride, int32_t srcElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t len, int32_t count);
 tarnStatus tarnCopy_va_64f_SS(const double* src, int32_t srcObjStride, int32_t srcElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
 
+/** Determinant of each square matrix; a matrix found singular gives 0, never a failure; buffer holds widthHeight*(widthHeight+1) elements. */
+tarnStatus tarnDet_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, float* buffer, float* dst);
+tarnStatus tarnDet_m_32f_P(const float* const* src, int32_t srcRoiShift, int32_t widthHeight, float* buffer, float* dst);
+tarnStatus tarnDet_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, double* buffer, double* dst);
+tarnStatus tarnDet_m_64f_P(const double* const* src, int32_t srcRoiShift, int32_t widthHeight, double* buffer, double* dst);
+tarnStatus tarnDet_ma_32f(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, float* buffer, float* dst, int32_t count);
+tarnStatus tarnDet_ma_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, float* buffer, float* dst, int32_t count);
+tarnStatus tarnDet_ma_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, int32_t widthHeight, float* buffer, float* dst, int32_t count);
+tarnStatus tarnDet_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, double* buffer, double* dst, int32_t count);
+tarnStatus tarnDet_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, double* buffer, double* dst, int32_t count);
+tarnStatus tarnDet_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, int32_t widthHeight, double* buffer, double* dst, int32_t count);
+
 /** Gathers an operand into one dense buffer, row by row; a t operand arrives transposed. */
 tarnStatus tarnExtract_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, float* dst, int32_t width, int32_t height);
 tarnStatus tarnExtract_m_32f_P(const float* const* src, int32_t srcRoiShift, float* dst, int32_t width, int32_t height);
@@ -210,6 +222,18 @@ tarnStatus tarnExtract_va_64f_P(const double* const* src, int32_t srcRoiShift, i
 /** Returns the constant version record of the library. */
 const tarnLibraryVersion* tarnGetLibVersion(void);
 
+/** Inverse of each square matrix, or tarnStatusSingular; buffer holds widthHeight*(widthHeight+1) elements. */
+tarnStatus tarnInvert_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, float* buffer, float* dst, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight);
+tarnStatus tarnInvert_m_32f_P(const float* const* src, int32_t srcRoiShift, float* buffer, float* const* dst, int32_t dstRoiShift, int32_t widthHeight);
+tarnStatus tarnInvert_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* dst, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight);
+tarnStatus tarnInvert_m_64f_P(const double* const* src, int32_t srcRoiShift, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t widthHeight);
+tarnStatus tarnInvert_ma_32f(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, float* buffer, float* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight, int32_t count);
+tarnStatus tarnInvert_ma_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, float* buffer, float* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight, int32_t count);
+tarnStatus tarnInvert_ma_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* buffer, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t widthHeight, int32_t count);
+tarnStatus tarnInvert_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight, int32_t count);
+tarnStatus tarnInvert_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight, int32_t count);
+tarnStatus tarnInvert_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t widthHeight, int32_t count);
+
 /** dst = src1*val1 + src2*val2 per element: both products and the sum each rounded, never fused. */
 tarnStatus tarnLComb_vav_32f(const float* src1, int32_t src1ObjStride, int32_t src1ElemStride, float val1, const float* src2, int32_t src2ElemStride, float val2, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
 tarnStatus tarnLComb_vav_32f_L(const float* const* src1, int32_t src1RoiShift, int32_t src1ElemStride, float val1, const float* src2, int32_t src2ElemStride, float val2, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t len, int32_t count);
@@ -238,6 +262,36 @@ tarnStatus tarnLoadIdentity_ma_64f_P(double* const* dst, int32_t dstRoiShift, in
 
 /** Products: dst = op(src1) * op(src2) of matrices and vectors, each matrix read as stored (m) or transposed (t), its sizes describing it as stored; or an operand times a constant. */
 tarnStatus tarnMul_mm4x4_32f(const float* src1, const float* src2, float* dst);
+
+/** Solves R x = Q^T b (least squares for a tall matrix) from what QRDecomp stored; buffer holds height elements. */
+tarnStatus tarnQRBackSubst_mava_32f(const float* src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride, float* buffer, const float* src2, int32_t src2ObjStride, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mava_32f_L(const float* const* src1, int32_t src1RoiShift, int32_t src1RowStride, int32_t src1ElemStride, float* buffer, const float* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mava_32f_P(const float* const* src1, int32_t src1RoiShift, int32_t src1ObjStride, float* buffer, const float* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mava_64f(const double* src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride, double* buffer, const double* src2, int32_t src2ObjStride, int32_t src2ElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mava_64f_L(const double* const* src1, int32_t src1RoiShift, int32_t src1RowStride, int32_t src1ElemStride, double* buffer, const double* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mava_64f_P(const double* const* src1, int32_t src1RoiShift, int32_t src1ObjStride, double* buffer, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mv_32f(const float* src1, int32_t src1RowStride, int32_t src1ElemStride, float* buffer, const float* src2, int32_t src2ElemStride, float* dst, int32_t dstElemStride, int32_t width, int32_t height);
+tarnStatus tarnQRBackSubst_mv_32f_P(const float* const* src1, int32_t src1RoiShift, float* buffer, const float* const* src2, int32_t src2RoiShift, float* const* dst, int32_t dstRoiShift, int32_t width, int32_t height);
+tarnStatus tarnQRBackSubst_mv_64f(const double* src1, int32_t src1RowStride, int32_t src1ElemStride, double* buffer, const double* src2, int32_t src2ElemStride, double* dst, int32_t dstElemStride, int32_t width, int32_t height);
+tarnStatus tarnQRBackSubst_mv_64f_P(const double* const* src1, int32_t src1RoiShift, double* buffer, const double* const* src2, int32_t src2RoiShift, double* const* dst, int32_t dstRoiShift, int32_t width, int32_t height);
+tarnStatus tarnQRBackSubst_mva_32f(const float* src1, int32_t src1RowStride, int32_t src1ElemStride, float* buffer, const float* src2, int32_t src2ObjStride, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mva_32f_L(const float* src1, int32_t src1RowStride, int32_t src1ElemStride, float* buffer, const float* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mva_32f_P(const float* const* src1, int32_t src1RoiShift, float* buffer, const float* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mva_64f(const double* src1, int32_t src1RowStride, int32_t src1ElemStride, double* buffer, const double* src2, int32_t src2ObjStride, int32_t src2ElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mva_64f_L(const double* src1, int32_t src1RowStride, int32_t src1ElemStride, double* buffer, const double* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mva_64f_P(const double* const* src1, int32_t src1RoiShift, double* buffer, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+
+/** Householder QR of a matrix with width <= height: R on and above the diagonal, each reflector below the diagonal of its column, its leading 1 implied; buffer holds height elements. */
+tarnStatus tarnQRDecomp_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, float* buffer, float* dst, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height);
+tarnStatus tarnQRDecomp_m_32f_P(const float* const* src, int32_t srcRoiShift, float* buffer, float* const* dst, int32_t dstRoiShift, int32_t width, int32_t height);
+tarnStatus tarnQRDecomp_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* dst, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height);
+tarnStatus tarnQRDecomp_m_64f_P(const double* const* src, int32_t srcRoiShift, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t width, int32_t height);
+tarnStatus tarnQRDecomp_ma_32f(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, float* buffer, float* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRDecomp_ma_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, float* buffer, float* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRDecomp_ma_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* buffer, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRDecomp_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRDecomp_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRDecomp_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
 
 /** dst = src1*val + src2 per element: the product and the sum each rounded, never fused. */
 tarnStatus tarnSaxpy_vav_32f(const float* src1, int32_t src1ObjStride, int32_t src1ElemStride, float val, const float* src2, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);

@@ -151,6 +151,16 @@ inline constexpr Thr kSaxpy = thr(40001, 40001, 40001);
 inline constexpr Thr kLComb32{20001, 20001, 40001, 20001, 20001}, kLComb64 = thr(20001, 20001, 20001);
 inline constexpr Thr kMul{36865, 18433, 18433, 18433, 9217};
 
+// QR, Det, Invert.
+inline constexpr std::string_view kArgsQR = "src:op1 buffer:buffer dst:mat width height count",
+                                  kArgsQRSolve = "src1:op1 buffer:buffer src2:op2 dst:vec width height count",
+                                  kArgsDet = "src:op1 widthHeight buffer:buffer dst:scalar count",
+                                  kArgsInvert = "src:op1 buffer:buffer dst:mat widthHeight count",
+                                  kScratchQR = "height*esize",
+                                  kScratchSquare = "widthHeight*(widthHeight+1)*esize";
+inline constexpr Thr kQR = thr(2801, 1801, 1801);
+inline constexpr Thr kDetInv32{20001, 20001, 40001, 20001, 20001}, kDetInv64 = thr(20001, 20001, 20001);
+
 // clang-format off
 inline constexpr Row kRows[] = {
   {.family = "GetLibVersion", .impl = "version", .forms = Forms::Version},
@@ -230,6 +240,23 @@ inline constexpr Row kRows[] = {
   {"LoadIdentity", "ma", "load_identity", kArgsFill, "NZCEO", "NZCER", "NZCRO"},
   {"Transpose", "m", "transpose", kArgsTranspose, "NZT", "", "NZR"},
   {"Transpose", "ma", "transpose", kArgsTranspose, "NCZT", "NCZTR", "NCZTR"},
+
+  // QR, its solver, determinant and inverse. `buffer` is the caller's work space, replaced on the
+  // parallel path by a block per thread. QR checks the shape (width <= height) last.
+  {"QRDecomp", "m", "qr_decomp", kArgsQR, "NZTH", "", "NZRH", {}, {}, {}, Rule::Tall, true, kScratchQR},
+  {"QRDecomp", "ma", "qr_decomp", kArgsQR, "NCZTH", "NCZTRH", "NCZTRH", "2*width*height*count", kQR, kQR,
+   Rule::Tall, true, kScratchQR},
+  {"QRBackSubst", "mv", "qr_back_subst", kArgsQRSolve, "NZTH", "", "NZRH", {}, {}, {}, Rule::Tall, false, kScratchQR},
+  {"QRBackSubst", "mva", "qr_back_subst", kArgsQRSolve, "NCZTH", "NCZTRH", "NCZTRH", "width*height+(width+height)*count",
+   kQR, kQR, Rule::Tall, false, kScratchQR},
+  {"QRBackSubst", "mava", "qr_back_subst", kArgsQRSolve, "NCZTH", "NCZTRH", "NCZTRH", "(width*(height+1)+height)*count",
+   kQR, kQR, Rule::Tall, false, kScratchQR},
+  {"Det", "m", "det", kArgsDet, "NZT", "", "NZR", {}, {}, {}, Rule::None, false, kScratchSquare},
+  {"Det", "ma", "det", kArgsDet, "NCZT", "NCZTR", "NCZTR", "widthHeight*count", kDetInv32, kDetInv64, Rule::None,
+   false, kScratchSquare},
+  {"Invert", "m", "invert", kArgsInvert, "NZT", "", "NZR", {}, {}, {}, Rule::None, true, kScratchSquare},
+  {"Invert", "ma", "invert", kArgsInvert, "NCZT", "NCZTR", "NCZTR", "2*widthHeight*count", kDetInv32, kDetInv64,
+   Rule::None, true, kScratchSquare},
 };
 
 inline constexpr FamilyDoc kDocs[] = {
@@ -243,6 +270,10 @@ inline constexpr FamilyDoc kDocs[] = {
   {"Extract", "Gathers an operand into one dense buffer, row by row; a t operand arrives transposed."},
   {"LoadIdentity", "Fills every matrix of the array with ones on the main diagonal and zeros elsewhere."},
   {"Transpose", "Writes the transpose of each matrix: dst has width rows and height columns."},
+  {"QRDecomp", "Householder QR of a matrix with width <= height: R on and above the diagonal, each reflector below the diagonal of its column, its leading 1 implied; buffer holds height elements."},
+  {"QRBackSubst", "Solves R x = Q^T b (least squares for a tall matrix) from what QRDecomp stored; buffer holds height elements."},
+  {"Det", "Determinant of each square matrix; a matrix found singular gives 0, never a failure; buffer holds widthHeight*(widthHeight+1) elements."},
+  {"Invert", "Inverse of each square matrix, or tarnStatusSingular; buffer holds widthHeight*(widthHeight+1) elements."},
 };
 
 inline constexpr Fixed kFixed[] = {
