@@ -177,14 +177,10 @@ inline __m128 sqrt(__m128 a) { return _mm_sqrt_ps(a); }
 inline __m128d sqrt(__m128d a) { return _mm_sqrt_pd(a); }
 inline __m128 abs(__m128 a) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), a); }
 inline __m128d abs(__m128d a) { return _mm_andnot_pd(_mm_set1_pd(-0.0), a); }
-inline __m128 neg(__m128 a) { return _mm_xor_ps(_mm_set1_ps(-0.0f), a); }
-inline __m128d neg(__m128d a) { return _mm_xor_pd(_mm_set1_pd(-0.0), a); }
 
 // Lane masks: bit l set when the comparison holds in lane l (false on a NaN).
 inline int lessMask(__m128 a, __m128 b) { return _mm_movemask_ps(_mm_cmplt_ps(a, b)); }
 inline int lessMask(__m128d a, __m128d b) { return _mm_movemask_pd(_mm_cmplt_pd(a, b)); }
-inline int notGreaterMask(__m128 a, __m128 b) { return _mm_movemask_ps(_mm_cmpngt_ps(a, b)); }
-inline int notGreaterMask(__m128d a, __m128d b) { return _mm_movemask_pd(_mm_cmpngt_pd(a, b)); }
 // a where a lane of `than` is greater than 0, else b.
 inline __m128 selectPositive(__m128 than, __m128 a, __m128 b) {
   const __m128 m = _mm_cmpgt_ps(than, _mm_setzero_ps());
@@ -197,8 +193,5 @@ inline __m128d selectPositive(__m128d than, __m128d a, __m128d b) {
 
 inline __m128 rcp(__m128 a) { return _mm_rcp_ps(a); }
 inline float rcp(float a) { return _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(a))); }
-
-template <int K> inline float lane(__m128 v) { return _mm_cvtss_f32(splat<K>(v)); }
-template <int K> inline double lane(__m128d v) { return _mm_cvtsd_f64(splat<K>(v)); }
 
 }  // namespace tarn::simd

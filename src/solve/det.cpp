@@ -57,14 +57,15 @@ tarnStatus run(const Plan& plan, const Call& c) {
     const int32_t count = S.anyArray ? s.count : 1;
     auto fixed = [&]<int N>() {
       if constexpr (S.anyArray) {
-        constexpr int NL = solve::kLanes<T>;
-        solve::Lanes<T> a[N][N];
+        using V = solve::Lanes<T>;
+        constexpr int NL = solve::kLanesOf<V>;
+        V a[N][N];
         for (int32_t k = 0; k < count; k += NL) {
           const int32_t nv = std::min<int32_t>(NL, count - k);
           solve::gather(solve::groupOf<NL>(src, k, nv).v, a);
-          const solve::Lanes<T> d = minors::detFixed<N>(a);
+          const V d = minors::detFixed<N>(a);
           if (nv == NL) {
-            simd::store<NL, false>(dst + k, d.v);
+            simd::store<NL, false>(dst + k, d.v[0]);
           } else {
             for (int l = 0; l < nv; ++l) dst[k + l] = solve::laneOf(d, l);
           }

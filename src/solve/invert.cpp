@@ -124,27 +124,34 @@ tarnStatus closedInverse(const Src& src, const Dst& dst, T tol) {
   return tarnStatusOk;
 }
 
-// Orders 3 and 4 of an array, kLanes matrices at a time. On a singular matrix the walk stops:
-// the matrices before it are written, with Pairs only those before its pair.
+// Orders 3 and 4 of an array, kLanes matrices at a time: the determinant first, then the
+// cofactors, scaled and stored row by row. On a singular matrix the walk stops: the matrices
+// before it are written, with Pairs only those before its pair.
 template <int N, bool Approx, class T, class Src, class Dst>
 tarnStatus lanesInverse(const Src& src, const Dst& dst, int32_t count, T tol, bool pairs) {
-  constexpr int NL = solve::kLanes<T>;
   using V = solve::Lanes<T>;
+  constexpr int NL = solve::kLanesOf<V>;
   for (int32_t n = 0; n < count; n += NL) {
     const int32_t nv = std::min<int32_t>(NL, count - n);
-    V a[N][N], c[N][N], out[N][N];
+    V a[N][N], c[N][N];
     solve::gather(solve::groupOf<NL>(src, n, nv).v, a);
-    const V d = inverse::adjugate<N>(a, c);
+    V d;
+    if constexpr (N == 4) d = inverse::cofactorsLast4(a, c[3]);
+    else d = inverse::adjugate3(a, c);
     const int bad = solve::belowMask(d, tol);
-    if constexpr (Approx) inverse::scaleTransposed(c, solve::approxRecip(d), out);
-    else inverse::scaleTransposed(c, solve::constant<V>(1) / d, out);
-    if (!bad) {
-      solve::scatter(solve::groupOf<NL>(dst, n, nv).v, out, nv);
-      continue;
+    V q;
+    if constexpr (Approx) q = solve::approxRecip(d);
+    else q = solve::constant<V>(1) / d;
+    if constexpr (N == 4) inverse::cofactorsRest4(a, c);
+    const auto g = solve::groupOf<NL>(dst, n, nv);
+    const int first = bad ? std::countr_zero(unsigned(bad)) : nv;
+    const int write = bad && pairs ? first & ~1 : first;
+    for (int i = 0; i < N; ++i) {
+      V row[N];
+      for (int j = 0; j < N; ++j) row[j] = c[j][i] * q;
+      solve::scatterRow(g.v, row, i, write);
     }
-    const int first = std::countr_zero(unsigned(bad));
-    solve::scatter(solve::groupOf<NL>(dst, n, nv).v, out, pairs ? first & ~1 : first);
-    return tarnStatusSingular;
+    if (bad) return tarnStatusSingular;
   }
   return tarnStatusOk;
 }

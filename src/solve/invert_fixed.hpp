@@ -32,14 +32,25 @@ inline V adjugate3(const V (&a)[3][3], V (&c)[3][3]) {
 // Order 4: the 2 by 2 minors of rows 0, 1 and of rows 2, 3; the cofactors of rows 0 and 1 from
 // those of rows 2, 3 and the cofactors of rows 2 and 3 from those of rows 0, 1. The determinant
 // is the expansion on row 3.
+// The cofactors of row 3 and the determinant, which need only rows 0 and 1's minors; then the
+// other rows'. Split so that a caller can test the determinant before forming the rest.
 template <class V>
-inline V adjugate4(const V (&a)[4][4], V (&c)[4][4]) {
+inline V cofactorsLast4(const V (&a)[4][4], V (&c3)[4]) {
+  minors::cofactorsRow<true>(a[2], minors::minors2(a[0], a[1]), c3);
+  return ((a[3][0] * c3[0] + a[3][1] * c3[1]) + a[3][2] * c3[2]) + a[3][3] * c3[3];
+}
+template <class V>
+inline void cofactorsRest4(const V (&a)[4][4], V (&c)[4][4]) {
   const minors::Minors2<V> top = minors::minors2(a[0], a[1]), low = minors::minors2(a[2], a[3]);
   minors::cofactorsRow<false>(a[1], low, c[0]);
   minors::cofactorsRow<true>(a[0], low, c[1]);
   minors::cofactorsRow<false>(a[3], top, c[2]);
-  minors::cofactorsRow<true>(a[2], top, c[3]);
-  return ((a[3][0] * c[3][0] + a[3][1] * c[3][1]) + a[3][2] * c[3][2]) + a[3][3] * c[3][3];
+}
+template <class V>
+inline V adjugate4(const V (&a)[4][4], V (&c)[4][4]) {
+  const V d = cofactorsLast4(a, c[3]);
+  cofactorsRest4(a, c);
+  return d;
 }
 
 // Orders 5 and 6 off the block paths: each cofactor is the closed-form determinant of its minor;

@@ -19,59 +19,82 @@
 
 namespace tarn::solve {
 
-template <class T>
+template <class T, int K = 1>
 struct Lanes {
-  simd::Vec<T> v;
+  simd::Vec<T> v[K];
 };
 
-template <class T> inline Lanes<T> operator+(Lanes<T> a, Lanes<T> b) { return {simd::add(a.v, b.v)}; }
-template <class T> inline Lanes<T> operator-(Lanes<T> a, Lanes<T> b) { return {simd::sub(a.v, b.v)}; }
-template <class T> inline Lanes<T> operator*(Lanes<T> a, Lanes<T> b) { return {simd::mul(a.v, b.v)}; }
-template <class T> inline Lanes<T> operator/(Lanes<T> a, Lanes<T> b) { return {simd::div(a.v, b.v)}; }
-template <class T> inline Lanes<T> operator-(Lanes<T> a) { return {simd::neg(a.v)}; }
+#define TARN_LANES_OP(op, fn)                                          \
+  template <class T, int K>                                            \
+  inline Lanes<T, K> operator op(Lanes<T, K> a, Lanes<T, K> b) {       \
+    Lanes<T, K> r;                                                     \
+    for (int k = 0; k < K; ++k) r.v[k] = simd::fn(a.v[k], b.v[k]);    \
+    return r;                                                          \
+  }
+TARN_LANES_OP(+, add)
+TARN_LANES_OP(-, sub)
+TARN_LANES_OP(*, mul)
+TARN_LANES_OP(/, div)
+#undef TARN_LANES_OP
 
 template <class V> struct NumberOf {
   using Elem = V;
   static constexpr int kLanes = 1;
 };
-template <class T> struct NumberOf<Lanes<T>> {
+template <class T, int K> struct NumberOf<Lanes<T, K>> {
   using Elem = T;
-  static constexpr int kLanes = simd::kLanes<T>;
+  static constexpr int kLanes = K * simd::kLanes<T>;
 };
 template <class V> using ElemOf = typename NumberOf<V>::Elem;
+template <class V> inline constexpr bool kScalar = std::is_same_v<V, ElemOf<V>>;
 
+// Objects one pass of a kernel over V carries.
+template <class V> inline constexpr int kLanesOf = NumberOf<V>::kLanes;
 template <class T> inline constexpr int kLanes = simd::kLanes<T>;
+
+// The same function of every register of a Lanes value.
+template <class T, int K, class F>
+inline Lanes<T, K> each(Lanes<T, K> x, F f) {
+  for (int k = 0; k < K; ++k) x.v[k] = f(x.v[k]);
+  return x;
+}
 
 template <class V>
 inline V constant(ElemOf<V> x) {
-  if constexpr (std::is_same_v<V, ElemOf<V>>) return x;
-  else return {simd::broadcast(x)};
+  if constexpr (kScalar<V>) return x;
+  else return each(V{}, [&](auto) { return simd::broadcast(x); });
 }
 
 template <class V>
 inline V sqrtOf(V x) {
-  if constexpr (std::is_same_v<V, ElemOf<V>>) return std::sqrt(x);
-  else return {simd::sqrt(x.v)};
+  if constexpr (kScalar<V>) return std::sqrt(x);
+  else return each(x, [](auto r) { return simd::sqrt(r); });
 }
 
 // n where alpha > 0, else 0 - n (alpha 0 and NaN included).
 template <class V>
 inline V negUnlessPositive(V alpha, V n) {
   using T = ElemOf<V>;
-  if constexpr (std::is_same_v<V, T>) return alpha > T(0) ? n : T(0) - n;
-  else return {simd::selectPositive(alpha.v, n.v, simd::sub(simd::broadcast(T(0)), n.v))};
+  if constexpr (kScalar<V>) {
+    return alpha > T(0) ? n : T(0) - n;
+  } else {
+    for (size_t k = 0; k < std::size(n.v); ++k)
+      n.v[k] = simd::selectPositive(alpha.v[k], n.v[k], simd::sub(simd::broadcast(T(0)), n.v[k]));
+    return n;
+  }
 }
 
-// The lanes (bit l for lane l; 1 for a scalar) where |x| < tol, and where not |x| > tol.
+// The lanes (bit l for lane l; 1 for a scalar) where |x| < tol.
 template <class V>
 inline int belowMask(V x, ElemOf<V> tol) {
-  if constexpr (std::is_same_v<V, ElemOf<V>>) return std::fabs(x) < tol;
-  else return simd::lessMask(simd::abs(x.v), simd::broadcast(tol));
-}
-template <class V>
-inline int notAboveMask(V x, ElemOf<V> tol) {
-  if constexpr (std::is_same_v<V, ElemOf<V>>) return !(std::fabs(x) > tol);
-  else return simd::notGreaterMask(simd::abs(x.v), simd::broadcast(tol));
+  if constexpr (kScalar<V>) {
+    return std::fabs(x) < tol;
+  } else {
+    int m = 0;
+    for (size_t k = 0; k < std::size(x.v); ++k)
+      m |= simd::lessMask(simd::abs(x.v[k]), simd::broadcast(tol)) << (k * kLanes<ElemOf<V>>);
+    return m;
+  }
 }
 
 // The processor's approximate reciprocal r0 of d with one Newton step: (r0 + r0) - d*(r0*r0).
@@ -79,17 +102,18 @@ inline float approxRecip(float d) {
   const float r0 = simd::rcp(d);
   return (r0 + r0) - d * (r0 * r0);
 }
-inline Lanes<float> approxRecip(Lanes<float> d) {
-  const Lanes<float> r0{simd::rcp(d.v)};
+template <int K>
+inline Lanes<float, K> approxRecip(Lanes<float, K> d) {
+  const Lanes<float, K> r0 = each(d, [](__m128 r) { return simd::rcp(r); });
   return (r0 + r0) - d * (r0 * r0);
 }
 
-// Lane k of a Lanes value as a scalar.
-template <class T>
-inline T laneOf(Lanes<T> x, int k) {
+// Lane l of a Lanes value as a scalar.
+template <class T, int K>
+inline T laneOf(Lanes<T, K> x, int l) {
   alignas(16) T t[kLanes<T>];
-  simd::store<kLanes<T>, true>(t, x.v);
-  return t[k];
+  simd::store<kLanes<T>, true>(t, x.v[l / kLanes<T>]);
+  return t[l % kLanes<T>];
 }
 
 // ---- Groups --------------------------------------------------------------------------------
@@ -109,66 +133,105 @@ inline auto groupOf(const A& a, int32_t first, int32_t n) {
   return g;
 }
 
-// x[r][c] = element (r, c) of each object of the group.
-template <int H, int W, class T, class View>
-inline void gather(const View (&v)[kLanes<T>], Lanes<T> (&x)[H][W]) {
-  if constexpr (RowsInMemory<View>::value) {
-    for (int r = 0; r < H; ++r)
-      simd::unroll<simd::chunks<T, W>()>([&]<int K>() {
-        constexpr int off = simd::chunkOff<T, W>(K), len = simd::chunkLen<T, W>(K);
-        if constexpr (std::is_same_v<T, float>) {
-          __m128 y[4];
-          for (int l = 0; l < 4; ++l) y[l] = simd::load<len, false>(v[l].rowPtr(r) + off);
-          simd::transpose4(y[0], y[1], y[2], y[3]);
-          for (int k = 0; k < len; ++k) x[r][off + k].v = y[k];
-        } else if constexpr (len == 2) {
-          __m128d y0 = simd::load<2, false>(v[0].rowPtr(r) + off), y1 = simd::load<2, false>(v[1].rowPtr(r) + off);
-          simd::transpose2(y0, y1);
-          x[r][off].v = y0;
-          x[r][off + 1].v = y1;
-        } else {
-          x[r][off].v = simd::gather2(v[0].rowPtr(r) + off, v[1].rowPtr(r) + off);
+// x[r][c] = element (r, c) of each object of the group, register k of x from views
+// [k*lanes, (k+1)*lanes).
+template <int H, int W, class T, int K, class View>
+inline void gather(const View (&views)[K * kLanes<T>], Lanes<T, K> (&x)[H][W]) {
+  for (int k = 0; k < K; ++k) {
+    const View* v = views + k * kLanes<T>;
+    if constexpr (RowsInMemory<View>::value) {
+      for (int r = 0; r < H; ++r)
+        simd::unroll<simd::chunks<T, W>()>([&]<int C>() {
+          constexpr int off = simd::chunkOff<T, W>(C), len = simd::chunkLen<T, W>(C);
+          if constexpr (std::is_same_v<T, float>) {
+            __m128 y[4];
+            for (int l = 0; l < 4; ++l) y[l] = simd::load<len, false>(v[l].rowPtr(r) + off);
+            simd::transpose4(y[0], y[1], y[2], y[3]);
+            for (int j = 0; j < len; ++j) x[r][off + j].v[k] = y[j];
+          } else if constexpr (len == 2) {
+            __m128d y0 = simd::load<2, false>(v[0].rowPtr(r) + off), y1 = simd::load<2, false>(v[1].rowPtr(r) + off);
+            simd::transpose2(y0, y1);
+            x[r][off].v[k] = y0;
+            x[r][off + 1].v[k] = y1;
+          } else {
+            x[r][off].v[k] = simd::gather2(v[0].rowPtr(r) + off, v[1].rowPtr(r) + off);
+          }
+        });
+    } else {
+      for (int r = 0; r < H; ++r)
+        for (int c = 0; c < W; ++c) {
+          if constexpr (std::is_same_v<T, float>)
+            x[r][c].v[k] = simd::gather4(v[0].at(r, c), v[1].at(r, c), v[2].at(r, c), v[3].at(r, c));
+          else
+            x[r][c].v[k] = simd::gather2(v[0].at(r, c), v[1].at(r, c));
         }
-      });
-  } else {
-    for (int r = 0; r < H; ++r)
-      for (int c = 0; c < W; ++c) {
-        if constexpr (std::is_same_v<T, float>) x[r][c].v = simd::gather4(v[0].at(r, c), v[1].at(r, c), v[2].at(r, c), v[3].at(r, c));
-        else x[r][c].v = simd::gather2(v[0].at(r, c), v[1].at(r, c));
-      }
+    }
   }
 }
 
-// Element (r, c) of x to the first n objects of the group.
-template <int H, int W, class T, class View>
-inline void scatter(const View (&v)[kLanes<T>], const Lanes<T> (&x)[H][W], int n) {
-  if constexpr (RowsInMemory<View>::value) {
-    for (int r = 0; r < H; ++r)
-      simd::unroll<simd::chunks<T, W>()>([&]<int K>() {
-        constexpr int off = simd::chunkOff<T, W>(K), len = simd::chunkLen<T, W>(K);
-        if constexpr (std::is_same_v<T, float>) {
-          __m128 y[4];
-          for (int k = 0; k < 4; ++k) y[k] = k < len ? x[r][off + k].v : _mm_setzero_ps();
-          simd::transpose4(y[0], y[1], y[2], y[3]);
-          for (int l = 0; l < n; ++l) simd::store<len, false>(v[l].rowPtr(r) + off, y[l]);
-        } else if constexpr (len == 2) {
-          __m128d y0 = x[r][off].v, y1 = x[r][off + 1].v;
-          simd::transpose2(y0, y1);
-          if (n > 0) simd::store<2, false>(v[0].rowPtr(r) + off, y0);
-          if (n > 1) simd::store<2, false>(v[1].rowPtr(r) + off, y1);
-        } else {
-          if (n > 0) _mm_store_sd(v[0].rowPtr(r) + off, x[r][off].v);
-          if (n > 1) _mm_storeh_pd(v[1].rowPtr(r) + off, x[r][off].v);
+// Element (r, c) of x to row r0 + r, column c of the first n objects of the group.
+template <int H, int W, class T, int K, class View>
+inline void scatter(const View (&views)[K * kLanes<T>], const Lanes<T, K> (&x)[H][W], int n, int r0 = 0) {
+  for (int k = 0; k < K; ++k) {
+    const View* v = views + k * kLanes<T>;
+    const int m = std::clamp(n - k * kLanes<T>, 0, kLanes<T>);  // objects of this register
+    if (m == 0) return;
+    if constexpr (RowsInMemory<View>::value) {
+      for (int r = 0; r < H; ++r)
+        simd::unroll<simd::chunks<T, W>()>([&]<int C>() {
+          constexpr int off = simd::chunkOff<T, W>(C), len = simd::chunkLen<T, W>(C);
+          if constexpr (std::is_same_v<T, float>) {
+            __m128 y[4];
+            for (int j = 0; j < 4; ++j) y[j] = j < len ? x[r][off + j].v[k] : _mm_setzero_ps();
+            simd::transpose4(y[0], y[1], y[2], y[3]);
+            for (int l = 0; l < m; ++l) simd::store<len, false>(v[l].rowPtr(r0 + r) + off, y[l]);
+          } else if constexpr (len == 2) {
+            __m128d y0 = x[r][off].v[k], y1 = x[r][off + 1].v[k];
+            simd::transpose2(y0, y1);
+            simd::store<2, false>(v[0].rowPtr(r0 + r) + off, y0);
+            if (m > 1) simd::store<2, false>(v[1].rowPtr(r0 + r) + off, y1);
+          } else {
+            _mm_store_sd(v[0].rowPtr(r0 + r) + off, x[r][off].v[k]);
+            if (m > 1) _mm_storeh_pd(v[1].rowPtr(r0 + r) + off, x[r][off].v[k]);
+          }
+        });
+    } else {
+      for (int r = 0; r < H; ++r)
+        for (int c = 0; c < W; ++c) {
+          alignas(16) T t[kLanes<T>];
+          simd::store<kLanes<T>, true>(t, x[r][c].v[k]);
+          for (int l = 0; l < m; ++l) *v[l].at(r0 + r, c) = t[l];
         }
-      });
-  } else {
-    for (int r = 0; r < H; ++r)
-      for (int c = 0; c < W; ++c) {
-        alignas(16) T t[kLanes<T>];
-        simd::store<kLanes<T>, true>(t, x[r][c].v);
-        for (int l = 0; l < n; ++l) *v[l].at(r, c) = t[l];
-      }
+    }
   }
+}
+
+// Row r of the group's objects from x[c] = element (r, c) of each, for the first n objects. A
+// full register of 4-float rows goes out as halves (unpacked pairs and 8-byte stores), which
+// leaves half the shuffles of a transpose to the store ports.
+template <int W, class T, int K, class View>
+inline void scatterRow(const View (&views)[K * kLanes<T>], const Lanes<T, K> (&x)[W], int r, int n) {
+  if constexpr (RowsInMemory<View>::value && std::is_same_v<T, float> && W == 4) {
+    if (n == K * 4) {
+      for (int k = 0; k < K; ++k) {
+        const View* v = views + 4 * k;
+        const __m128 t0 = _mm_unpacklo_ps(x[0].v[k], x[1].v[k]), t1 = _mm_unpacklo_ps(x[2].v[k], x[3].v[k]);
+        const __m128 t2 = _mm_unpackhi_ps(x[0].v[k], x[1].v[k]), t3 = _mm_unpackhi_ps(x[2].v[k], x[3].v[k]);
+        simd::store<2, false>(v[0].rowPtr(r), t0);
+        simd::store<2, false>(v[0].rowPtr(r) + 2, t1);
+        simd::storeHigh(v[1].rowPtr(r), t0);
+        simd::storeHigh(v[1].rowPtr(r) + 2, t1);
+        simd::store<2, false>(v[2].rowPtr(r), t2);
+        simd::store<2, false>(v[2].rowPtr(r) + 2, t3);
+        simd::storeHigh(v[3].rowPtr(r), t2);
+        simd::storeHigh(v[3].rowPtr(r) + 2, t3);
+      }
+      return;
+    }
+  }
+  Lanes<T, K> one[1][W];
+  for (int c = 0; c < W; ++c) one[0][c] = x[c];
+  scatter(views, one, n, r);
 }
 
 // One object's elements as scalars, and back.

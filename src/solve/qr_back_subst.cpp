@@ -54,8 +54,8 @@ void solveOne(const A& a, const B& b, const X& x, T* buffer, int32_t h, int32_t 
 // group's last object, as the reference would.
 template <bool OneMatrix, class T, class A, class B, class X>
 void walk(const A& a, const B& b, const X& x, T* buffer, int32_t count, int32_t h, int32_t w) {
-  constexpr int NL = solve::kLanes<T>;
-  using V = solve::Lanes<T>;
+  using V = solve::Lanes<T, 2>;  // two registers of objects per pass, as in QRDecomp
+  constexpr int NL = solve::kLanesOf<V>;
   int32_t n = 0;
   qr::withFixedShape(h, w, [&]<int H, int W>() {
     constexpr int K = reflectors(H, W) > 0 ? reflectors(H, W) : 1;

@@ -60,7 +60,10 @@ tarnStatus reduceOne(const Src& s, const Dst& a, T* v, int32_t h, int32_t w) {
 // then the last reflector.
 template <class T, class Src, class Dst>
 tarnStatus walk(const Src& src, const Dst& dst, T* v, int32_t count, int32_t h, int32_t w) {
-  constexpr int NL = solve::kLanes<T>;
+  // Two registers of objects per pass: the stages are one long chain of dependent operations
+  // (sums, a square root, two divisions), and two independent chains keep the units busy.
+  using V = solve::Lanes<T, 2>;
+  constexpr int NL = solve::kLanesOf<V>;
   int32_t n = 0;
   tarnStatus st = tarnStatusOk;
   qr::withFixedShape(h, w, [&]<int H, int W>() {
@@ -69,7 +72,7 @@ tarnStatus walk(const Src& src, const Dst& dst, T* v, int32_t count, int32_t h, 
       const int32_t nv = std::min<int32_t>(NL, count - n);
       const auto gs = solve::groupOf<NL>(src, n, nv);
       const auto gd = solve::groupOf<NL>(dst, n, nv);
-      solve::Lanes<T> a[H][W];
+      V a[H][W];
       solve::gather(gs.v, a);
       if (qr::reduceFixed(a) == 0) {
         solve::scatter(gd.v, a, nv);
