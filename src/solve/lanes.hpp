@@ -133,6 +133,34 @@ inline auto groupOf(const A& a, int32_t first, int32_t n) {
   return g;
 }
 
+// Element addresses of the objects of a group: element (r0 + r, c) for r < H, c < W. The objects
+// of one accessor share their strides (or their table), so the offsets are formed once per
+// group, not once per element and object.
+template <int H, int W, class View>
+struct Places {  // any view: its own at()
+  int r0;
+  Places(const View&, int first) : r0(first) {}
+  auto at(const View& v, int r, int c) const { return v.at(r0 + r, c); }
+};
+template <int H, int W, class E>
+struct Places<H, W, StridedObj<E, false>> {
+  std::ptrdiff_t off[H][W];
+  Places(const StridedObj<E, false>& v, int r0) {
+    for (int r = 0; r < H; ++r)
+      for (int c = 0; c < W; ++c) off[r][c] = off32(r0 + r, v.row) + off32(c, v.elem);
+  }
+  E* at(const StridedObj<E, false>& v, int r, int c) const { return byteAdd(v.p, off[r][c]); }
+};
+template <int H, int W, class E>
+struct Places<H, W, TableObj<E>> {
+  E* base[H][W];
+  Places(const TableObj<E>& v, int r0) {
+    for (int r = 0; r < H; ++r)
+      for (int c = 0; c < W; ++c) base[r][c] = v.tbl[(r0 + r) * v.sw + c];
+  }
+  E* at(const TableObj<E>& v, int r, int c) const { return byteAdd(base[r][c], v.off); }
+};
+
 // x[r][c] = element (r, c) of each object of the group, register k of x from views
 // [k*lanes, (k+1)*lanes).
 template <int H, int W, class T, int K, class View>
@@ -158,12 +186,13 @@ inline void gather(const View (&views)[K * kLanes<T>], Lanes<T, K> (&x)[H][W]) {
           }
         });
     } else {
+      const Places<H, W, View> p(v[0], 0);
       for (int r = 0; r < H; ++r)
         for (int c = 0; c < W; ++c) {
           if constexpr (std::is_same_v<T, float>)
-            x[r][c].v[k] = simd::gather4(v[0].at(r, c), v[1].at(r, c), v[2].at(r, c), v[3].at(r, c));
+            x[r][c].v[k] = simd::gather4(p.at(v[0], r, c), p.at(v[1], r, c), p.at(v[2], r, c), p.at(v[3], r, c));
           else
-            x[r][c].v[k] = simd::gather2(v[0].at(r, c), v[1].at(r, c));
+            x[r][c].v[k] = simd::gather2(p.at(v[0], r, c), p.at(v[1], r, c));
         }
     }
   }
@@ -196,11 +225,12 @@ inline void scatter(const View (&views)[K * kLanes<T>], const Lanes<T, K> (&x)[H
           }
         });
     } else {
+      const Places<H, W, View> p(v[0], r0);
       for (int r = 0; r < H; ++r)
         for (int c = 0; c < W; ++c) {
           alignas(16) T t[kLanes<T>];
           simd::store<kLanes<T>, true>(t, x[r][c].v[k]);
-          for (int l = 0; l < m; ++l) *v[l].at(r0 + r, c) = t[l];
+          for (int l = 0; l < m; ++l) *p.at(v[l], r, c) = t[l];
         }
     }
   }
