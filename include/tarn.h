@@ -199,6 +199,18 @@ tarnStatus tarnCrossProduct_vva_64f(const double* src1, int32_t src1ElemStride, 
 tarnStatus tarnCrossProduct_vva_64f_L(const double* src1, int32_t src1ElemStride, const double* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t count);
 tarnStatus tarnCrossProduct_vva_64f_P(const double* const* src1, int32_t src1RoiShift, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t count);
 
+/** Determinant of each square matrix; a matrix found singular gives 0, never a failure; buffer holds widthHeight*(widthHeight+1) elements. */
+tarnStatus tarnDet_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, float* buffer, float* dst);
+tarnStatus tarnDet_m_32f_P(const float* const* src, int32_t srcRoiShift, int32_t widthHeight, float* buffer, float* dst);
+tarnStatus tarnDet_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, double* buffer, double* dst);
+tarnStatus tarnDet_m_64f_P(const double* const* src, int32_t srcRoiShift, int32_t widthHeight, double* buffer, double* dst);
+tarnStatus tarnDet_ma_32f(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, float* buffer, float* dst, int32_t count);
+tarnStatus tarnDet_ma_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, float* buffer, float* dst, int32_t count);
+tarnStatus tarnDet_ma_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, int32_t widthHeight, float* buffer, float* dst, int32_t count);
+tarnStatus tarnDet_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, double* buffer, double* dst, int32_t count);
+tarnStatus tarnDet_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, double* buffer, double* dst, int32_t count);
+tarnStatus tarnDet_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, int32_t widthHeight, double* buffer, double* dst, int32_t count);
+
 /** dst = sum of src1[k]*src2[k] per pair of vectors, one result element per object; the order of the additions depends on the length, the path and, for long contiguous vectors, the address of src2. */
 tarnStatus tarnDotProduct_vav_32f(const float* src1, int32_t src1ObjStride, int32_t src1ElemStride, const float* src2, int32_t src2ElemStride, float* dst, int32_t len, int32_t count);
 tarnStatus tarnDotProduct_vav_32f_L(const float* const* src1, int32_t src1RoiShift, int32_t src1ElemStride, const float* src2, int32_t src2ElemStride, float* dst, int32_t len, int32_t count);
@@ -263,6 +275,18 @@ tarnStatus tarnFrobNorm_ma_64f_P(const double* const* src, int32_t srcRoiShift, 
 
 /** Returns the constant version record of the library. */
 const tarnLibraryVersion* tarnGetLibVersion(void);
+
+/** Inverse of each square matrix, or tarnStatusSingular; buffer holds widthHeight*(widthHeight+1) elements. */
+tarnStatus tarnInvert_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, float* buffer, float* dst, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight);
+tarnStatus tarnInvert_m_32f_P(const float* const* src, int32_t srcRoiShift, float* buffer, float* const* dst, int32_t dstRoiShift, int32_t widthHeight);
+tarnStatus tarnInvert_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* dst, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight);
+tarnStatus tarnInvert_m_64f_P(const double* const* src, int32_t srcRoiShift, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t widthHeight);
+tarnStatus tarnInvert_ma_32f(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, float* buffer, float* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight, int32_t count);
+tarnStatus tarnInvert_ma_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, float* buffer, float* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight, int32_t count);
+tarnStatus tarnInvert_ma_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* buffer, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t widthHeight, int32_t count);
+tarnStatus tarnInvert_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight, int32_t count);
+tarnStatus tarnInvert_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight, int32_t count);
+tarnStatus tarnInvert_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t widthHeight, int32_t count);
 
 /** dst = the square root of the sum of squares of each vector, without scaling: overflow gives infinity. */
 tarnStatus tarnL2Norm_v_32f(const float* src, int32_t srcElemStride, float* dst, int32_t len);
@@ -392,6 +416,36 @@ tarnStatus tarnMul_tta_32f_P(const float* const* src1, int32_t src1RoiShift, int
 tarnStatus tarnMul_tta_64f(const double* src1, int32_t src1RowStride, int32_t src1ElemStride, int32_t src1Width, int32_t src1Height, const double* src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, int32_t src2Width, int32_t src2Height, double* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t count);
 tarnStatus tarnMul_tta_64f_L(const double* src1, int32_t src1RowStride, int32_t src1ElemStride, int32_t src1Width, int32_t src1Height, const double* const* src2, int32_t src2RoiShift, int32_t src2RowStride, int32_t src2ElemStride, int32_t src2Width, int32_t src2Height, double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t count);
 tarnStatus tarnMul_tta_64f_P(const double* const* src1, int32_t src1RoiShift, int32_t src1Width, int32_t src1Height, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, int32_t src2Width, int32_t src2Height, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t count);
+
+/** Solves R x = Q^T b (least squares for a tall matrix) from what QRDecomp stored; buffer holds height elements. */
+tarnStatus tarnQRBackSubst_mava_32f(const float* src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride, float* buffer, const float* src2, int32_t src2ObjStride, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mava_32f_L(const float* const* src1, int32_t src1RoiShift, int32_t src1RowStride, int32_t src1ElemStride, float* buffer, const float* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mava_32f_P(const float* const* src1, int32_t src1RoiShift, int32_t src1ObjStride, float* buffer, const float* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mava_64f(const double* src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride, double* buffer, const double* src2, int32_t src2ObjStride, int32_t src2ElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mava_64f_L(const double* const* src1, int32_t src1RoiShift, int32_t src1RowStride, int32_t src1ElemStride, double* buffer, const double* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mava_64f_P(const double* const* src1, int32_t src1RoiShift, int32_t src1ObjStride, double* buffer, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mv_32f(const float* src1, int32_t src1RowStride, int32_t src1ElemStride, float* buffer, const float* src2, int32_t src2ElemStride, float* dst, int32_t dstElemStride, int32_t width, int32_t height);
+tarnStatus tarnQRBackSubst_mv_32f_P(const float* const* src1, int32_t src1RoiShift, float* buffer, const float* const* src2, int32_t src2RoiShift, float* const* dst, int32_t dstRoiShift, int32_t width, int32_t height);
+tarnStatus tarnQRBackSubst_mv_64f(const double* src1, int32_t src1RowStride, int32_t src1ElemStride, double* buffer, const double* src2, int32_t src2ElemStride, double* dst, int32_t dstElemStride, int32_t width, int32_t height);
+tarnStatus tarnQRBackSubst_mv_64f_P(const double* const* src1, int32_t src1RoiShift, double* buffer, const double* const* src2, int32_t src2RoiShift, double* const* dst, int32_t dstRoiShift, int32_t width, int32_t height);
+tarnStatus tarnQRBackSubst_mva_32f(const float* src1, int32_t src1RowStride, int32_t src1ElemStride, float* buffer, const float* src2, int32_t src2ObjStride, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mva_32f_L(const float* src1, int32_t src1RowStride, int32_t src1ElemStride, float* buffer, const float* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mva_32f_P(const float* const* src1, int32_t src1RoiShift, float* buffer, const float* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mva_64f(const double* src1, int32_t src1RowStride, int32_t src1ElemStride, double* buffer, const double* src2, int32_t src2ObjStride, int32_t src2ElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mva_64f_L(const double* src1, int32_t src1RowStride, int32_t src1ElemStride, double* buffer, const double* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRBackSubst_mva_64f_P(const double* const* src1, int32_t src1RoiShift, double* buffer, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+
+/** Householder QR of a matrix with width <= height: R on and above the diagonal, each reflector below the diagonal of its column, its leading 1 implied; buffer holds height elements. */
+tarnStatus tarnQRDecomp_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, float* buffer, float* dst, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height);
+tarnStatus tarnQRDecomp_m_32f_P(const float* const* src, int32_t srcRoiShift, float* buffer, float* const* dst, int32_t dstRoiShift, int32_t width, int32_t height);
+tarnStatus tarnQRDecomp_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* dst, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height);
+tarnStatus tarnQRDecomp_m_64f_P(const double* const* src, int32_t srcRoiShift, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t width, int32_t height);
+tarnStatus tarnQRDecomp_ma_32f(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, float* buffer, float* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRDecomp_ma_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, float* buffer, float* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRDecomp_ma_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* buffer, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRDecomp_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRDecomp_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnQRDecomp_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
 
 /** dst = src1*val + src2 per element: the product and the sum each rounded, never fused. */
 tarnStatus tarnSaxpy_vav_32f(const float* src1, int32_t src1ObjStride, int32_t src1ElemStride, float val, const float* src2, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);

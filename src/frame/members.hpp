@@ -163,6 +163,15 @@ inline constexpr Thr kCrossOne32 = thr(20000, 40000, 20000), kCrossOne64 = thr(2
 inline constexpr Thr kCrossTwo32 = thr(20001, 40001, 20001), kCrossTwo64 = thr(20001, 20001, 20001);
 // FrobNorm and Trace 32f start later on the contiguous LayoutL path only.
 inline constexpr Thr kReduce = thr(20001, 20001, 20001), kReduceL32{20001, 20001, 40001, 20001, 20001};
+// QR, Det, Invert.
+inline constexpr std::string_view kArgsQR = "src:op1 buffer:buffer dst:mat width height count",
+                                  kArgsQRSolve = "src1:op1 buffer:buffer src2:op2 dst:vec width height count",
+                                  kArgsDet = "src:op1 widthHeight buffer:buffer dst:scalar count",
+                                  kArgsInvert = "src:op1 buffer:buffer dst:mat widthHeight count",
+                                  kScratchQR = "height*esize",
+                                  kScratchSquare = "widthHeight*(widthHeight+1)*esize";
+inline constexpr Thr kQR = thr(2801, 1801, 1801);
+inline constexpr Thr kDetInv32{20001, 20001, 40001, 20001, 20001}, kDetInv64 = thr(20001, 20001, 20001);
 
 // clang-format off
 inline constexpr Row kRows[] = {
@@ -280,6 +289,22 @@ inline constexpr Row kRows[] = {
   {"FrobNorm", "ma", "frob_norm", kArgsFrob, "NCZT", "NCZTR", "NCZTR", "width*height*count", kReduceL32, kReduce},
   {"Trace", "m", "trace", kArgsTrace, "NZT", "", "NZR"},
   {"Trace", "ma", "trace", kArgsTrace, "NCZT", "NCZTR", "NCZTR", "widthHeight*count", kReduceL32, kReduce},
+  // QR, its solver, determinant and inverse. `buffer` is the caller's work space, replaced on the
+  // parallel path by a block per thread. QR checks the shape (width <= height) last.
+  {"QRDecomp", "m", "qr_decomp", kArgsQR, "NZTH", "", "NZRH", {}, {}, {}, Rule::Tall, true, kScratchQR},
+  {"QRDecomp", "ma", "qr_decomp", kArgsQR, "NCZTH", "NCZTRH", "NCZTRH", "2*width*height*count", kQR, kQR,
+   Rule::Tall, true, kScratchQR},
+  {"QRBackSubst", "mv", "qr_back_subst", kArgsQRSolve, "NZTH", "", "NZRH", {}, {}, {}, Rule::Tall, false, kScratchQR},
+  {"QRBackSubst", "mva", "qr_back_subst", kArgsQRSolve, "NCZTH", "NCZTRH", "NCZTRH", "width*height+(width+height)*count",
+   kQR, kQR, Rule::Tall, false, kScratchQR},
+  {"QRBackSubst", "mava", "qr_back_subst", kArgsQRSolve, "NCZTH", "NCZTRH", "NCZTRH", "(width*(height+1)+height)*count",
+   kQR, kQR, Rule::Tall, false, kScratchQR},
+  {"Det", "m", "det", kArgsDet, "NZT", "", "NZR", {}, {}, {}, Rule::None, false, kScratchSquare},
+  {"Det", "ma", "det", kArgsDet, "NCZT", "NCZTR", "NCZTR", "widthHeight*count", kDetInv32, kDetInv64, Rule::None,
+   false, kScratchSquare},
+  {"Invert", "m", "invert", kArgsInvert, "NZT", "", "NZR", {}, {}, {}, Rule::None, true, kScratchSquare},
+  {"Invert", "ma", "invert", kArgsInvert, "NCZT", "NCZTR", "NCZTR", "2*widthHeight*count", kDetInv32, kDetInv64,
+   Rule::None, true, kScratchSquare},
 };
 
 inline constexpr FamilyDoc kDocs[] = {
@@ -298,6 +323,10 @@ inline constexpr FamilyDoc kDocs[] = {
   {"L2Norm", "dst = the square root of the sum of squares of each vector, without scaling: overflow gives infinity."},
   {"FrobNorm", "dst = the square root of the sum of squares of the elements of each matrix, without scaling."},
   {"Trace", "dst = the sum of the diagonal elements of each square matrix, diagonal element 0 first."},
+  {"QRDecomp", "Householder QR of a matrix with width <= height: R on and above the diagonal, each reflector below the diagonal of its column, its leading 1 implied; buffer holds height elements."},
+  {"QRBackSubst", "Solves R x = Q^T b (least squares for a tall matrix) from what QRDecomp stored; buffer holds height elements."},
+  {"Det", "Determinant of each square matrix; a matrix found singular gives 0, never a failure; buffer holds widthHeight*(widthHeight+1) elements."},
+  {"Invert", "Inverse of each square matrix, or tarnStatusSingular; buffer holds widthHeight*(widthHeight+1) elements."},
 };
 
 inline constexpr Fixed kFixed[] = {

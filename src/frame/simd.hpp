@@ -250,3 +250,35 @@ inline void storeYZX(float* p, __m128 v) {
 }
 
 }  // namespace tarn::simd
+
+// ---- Solving --------------------------------------------------------------------------------
+// Objects side by side in the lanes of one register: every lane does the scalar operation of its
+// own object. Division and square root are the correctly rounded instructions, so a lane gives
+// the bits of the scalar code; the approximate reciprocal is the processor's own, and rcpps gives
+// each lane what rcpss gives the same value.
+namespace tarn::simd {
+
+inline __m128 div(__m128 a, __m128 b) { return _mm_div_ps(a, b); }
+inline __m128d div(__m128d a, __m128d b) { return _mm_div_pd(a, b); }
+inline __m128 sqrt(__m128 a) { return _mm_sqrt_ps(a); }
+inline __m128d sqrt(__m128d a) { return _mm_sqrt_pd(a); }
+inline __m128 abs(__m128 a) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), a); }
+inline __m128d abs(__m128d a) { return _mm_andnot_pd(_mm_set1_pd(-0.0), a); }
+
+// Lane masks: bit l set when the comparison holds in lane l (false on a NaN).
+inline int lessMask(__m128 a, __m128 b) { return _mm_movemask_ps(_mm_cmplt_ps(a, b)); }
+inline int lessMask(__m128d a, __m128d b) { return _mm_movemask_pd(_mm_cmplt_pd(a, b)); }
+// a where a lane of `than` is greater than 0, else b.
+inline __m128 selectPositive(__m128 than, __m128 a, __m128 b) {
+  const __m128 m = _mm_cmpgt_ps(than, _mm_setzero_ps());
+  return _mm_or_ps(_mm_and_ps(m, a), _mm_andnot_ps(m, b));
+}
+inline __m128d selectPositive(__m128d than, __m128d a, __m128d b) {
+  const __m128d m = _mm_cmpgt_pd(than, _mm_setzero_pd());
+  return _mm_or_pd(_mm_and_pd(m, a), _mm_andnot_pd(m, b));
+}
+
+inline __m128 rcp(__m128 a) { return _mm_rcp_ps(a); }
+inline float rcp(float a) { return _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(a))); }
+
+}  // namespace tarn::simd

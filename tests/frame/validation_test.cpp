@@ -179,6 +179,23 @@ TEST(Validation, PinnedOrders) {
       {"tarnCrossProduct_vv_64f_P", [](Args& a) { a.op[2].roi = 4; a.op[0].ptr = nullptr; }, tarnStatusNullPointer},
       {"tarnCrossProduct_vv_64f_P", [](Args& a) { a.op[2].roi = 4; }, tarnStatusBadRoiShift},
       {"tarnCrossProduct_vv_32f", [](Args& a) { a.count = 0; a.op[0].elem = 0; }, tarnStatusBadStride},
+      // QR checks width > height last, after strides and shifts; a null buffer is a null pointer.
+      {"tarnQRDecomp_m_32f", [](Args& a) { a.width = 4; a.op[0].elem = 2; }, tarnStatusBadStride},
+      {"tarnQRDecomp_ma_64f_L", [](Args& a) { a.width = 4; a.op[2].roi = 4; }, tarnStatusBadRoiShift},
+      {"tarnQRDecomp_m_32f_P", [](Args& a) { a.width = 4; a.op[0].roi = -4; }, tarnStatusBadRoiShift},
+      {"tarnQRDecomp_ma_32f", [](Args& a) { a.width = 4; a.count = 0; }, tarnStatusBadCount},
+      {"tarnQRDecomp_ma_32f", [](Args& a) { a.width = 4; a.height = 0; }, tarnStatusBadSize},
+      {"tarnQRDecomp_m_64f", [](Args& a) { a.width = 4; a.op[1].ptr = nullptr; }, tarnStatusNullPointer},
+      {"tarnQRDecomp_ma_32f_P", [](Args& a) { a.width = 4; }, tarnStatusShapeMismatch},
+      {"tarnQRBackSubst_mva_32f", [](Args& a) { a.width = 4; a.op[3].ptr = nullptr; }, tarnStatusNullPointer},
+      {"tarnQRBackSubst_mv_32f", [](Args& a) { a.width = 4; a.op[2].elem = 2; }, tarnStatusBadStride},
+      {"tarnQRBackSubst_mava_64f_P", [](Args& a) { a.width = 4; a.op[3].roi = 12; }, tarnStatusBadRoiShift},
+      {"tarnQRBackSubst_mava_64f_P", [](Args& a) { a.width = 4; }, tarnStatusShapeMismatch},
+      // Det and Invert: the buffer is required even where an order never uses it.
+      {"tarnDet_m_32f", [](Args& a) { a.op[1].ptr = nullptr; a.order = 0; }, tarnStatusNullPointer},
+      {"tarnDet_ma_64f_P", [](Args& a) { a.order = 0; a.op[0].roi = 4; }, tarnStatusBadSize},
+      {"tarnInvert_ma_32f_L", [](Args& a) { a.op[0].roi = 2; a.op[0].elem = 2; }, tarnStatusBadStride},
+      {"tarnInvert_m_64f_P", [](Args& a) { a.op[1].ptr = nullptr; a.op[0].roi = 4; }, tarnStatusNullPointer},
   };
   for (const Case& c : cases) {
     const MemberFn& m = member(c.name);
