@@ -1,0 +1,123 @@
+// Fixed 4x4 float matrices, 16 floats in row order: identity, the exact identity test,
+// transpose, determinant, inverse and the transposed product.
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+
+#include "geometry.hpp"
+#include "simd.hpp"
+
+namespace tarn::m4 {
+
+tarnStatus identity(float* dst) {
+  for (int i = 0; i < 16; ++i) dst[i] = i % 5 == 0 ? 1.0f : 0.0f;
+  return tarnStatusOk;
+}
+
+// Exact comparisons in index order up to the first element that differs: -0.0 is a zero, a
+// NaN is never equal.
+tarnStatus isIdentity(const float* src, int32_t* result) {
+  int32_t same = 1;
+  for (int i = 0; i < 16 && same; ++i) same = src[i] == (i % 5 == 0 ? 1.0f : 0.0f);
+  *result = same;
+  return tarnStatusOk;
+}
+
+// Sixteen moves, dst in index order; dst must not overlap src.
+tarnStatus transpose(const float* src, float* dst) {
+  for (int i = 0; i < 4; ++i)
+    for (int j = 0; j < 4; ++j) dst[4 * i + j] = src[4 * j + i];
+  return tarnStatusOk;
+}
+
+// Expansion along the first row with the six 2x2 minors of the last two rows, every sum left
+// to right.
+tarnStatus det(const float* src, float* dst) {
+  auto m = [src](int r, int c) { return src[4 * r + c]; };
+  const float a = m(2, 2) * m(3, 3) - m(2, 3) * m(3, 2);
+  const float b = m(3, 3) * m(2, 1) - m(2, 3) * m(3, 1);
+  const float c = m(3, 2) * m(2, 1) - m(2, 2) * m(3, 1);
+  const float d = m(3, 2) * m(2, 0) - m(2, 2) * m(3, 0);
+  const float e = m(3, 3) * m(2, 0) - m(2, 3) * m(3, 0);
+  const float f = m(3, 1) * m(2, 0) - m(2, 1) * m(3, 0);
+  const float c0 = (m(1, 1) * a - m(1, 2) * b) + m(1, 3) * c;
+  const float c1 = (a * m(1, 0) - m(1, 2) * e) + m(1, 3) * d;
+  const float c2 = (b * m(1, 0) - e * m(1, 1)) + m(1, 3) * f;
+  const float c3 = (c * m(1, 0) - m(1, 1) * d) + m(1, 2) * f;
+  *dst = ((c0 * m(0, 0) - c1 * m(0, 1)) + c2 * m(0, 2)) - c3 * m(0, 3);
+  return tarnStatusOk;
+}
+
+// Gauss-Jordan on a copy A of src beside B = I, the pivot searched along row k among the
+// columns not yet used, which p[] records instead of swapping columns. Rows of A and B live in
+// registers; a row operation on A runs over all four lanes, which changes only columns that no
+// later step reads. The limit on the pivot is absolute: twelve float epsilons.
+tarnStatus invert(const float* src, float* det, float* dst) {
+  constexpr float kLimit = 1.4305115e-6f;  // 0x35C00000
+  alignas(16) float a[4][4];
+  __m128 b[4];
+  for (int i = 0; i < 4; ++i) {
+    simd::store<4, true>(a[i], simd::load<4, false>(src + 4 * i));
+    b[i] = simd::constant(i == 0, i == 1, i == 2, i == 3);
+  }
+  int p[4] = {0, 1, 2, 3};
+  float d = 1.0f;
+  for (int k = 0; k < 4; ++k) {
+    int best = k;
+    float pivot = a[k][p[k]];
+    for (int j = k + 1; j < 4; ++j)
+      if (std::fabs(a[k][p[j]]) > std::fabs(pivot)) {
+        pivot = a[k][p[j]];
+        best = j;
+      }
+    if (std::fabs(pivot) < kLimit) {
+      if (det) *det = 0.0f;
+      return tarnStatusSingular;
+    }
+    const int col = p[best];
+    p[best] = p[k];
+    p[k] = col;
+    const __m128 pv = simd::broadcast(pivot);
+    const __m128 ak = simd::div(simd::load<4, true>(a[k]), pv);
+    simd::store<4, true>(a[k], ak);
+    b[k] = simd::div(b[k], pv);
+    d = d * pivot;
+    for (int i = 0; i < 4; ++i) {
+      if (i == k) continue;
+      const __m128 f = simd::broadcast(a[i][col]);
+      simd::store<4, true>(a[i], simd::sub(simd::load<4, true>(a[i]), simd::mul(ak, f)));
+      b[i] = simd::sub(b[i], simd::mul(f, b[k]));
+    }
+  }
+  for (int i = 0; i < 4; ++i) simd::store<4, false>(dst + 4 * p[i], b[i]);
+  if (det) {
+    int swaps = 0;  // parity of p by its inversions
+    for (int i = 0; i < 4; ++i)
+      for (int j = i + 1; j < 4; ++j) swaps += p[i] > p[j];
+    *det = swaps % 2 ? 0.0f - d : d;
+  }
+  return tarnStatusOk;
+}
+
+// dst[j][i] = row i of src1 times column j of src2, the four products summed left to right,
+// computed and stored row i by row i: dst must not overlap a source.
+tarnStatus mulTranspose(const float* src1, const float* src2, float* dst) {
+  __m128 b[4];
+  for (int k = 0; k < 4; ++k) b[k] = simd::load<4, false>(src2 + 4 * k);
+  for (int i = 0; i < 4; ++i) {
+    const float* a = src1 + 4 * i;
+    __m128 s = simd::mul(simd::broadcast(a[0]), b[0]);
+    s = simd::add(s, simd::mul(simd::broadcast(a[1]), b[1]));
+    s = simd::add(s, simd::mul(simd::broadcast(a[2]), b[2]));
+    s = simd::add(s, simd::mul(simd::broadcast(a[3]), b[3]));
+    alignas(16) float row[4];
+    simd::store<4, true>(row, s);
+    for (int j = 0; j < 4; ++j) dst[4 * j + i] = row[j];
+  }
+  return tarnStatusOk;
+}
+
+}  // namespace tarn::m4
+
+#define TARN_IMPL_m4
+#include "bindings.hpp"
