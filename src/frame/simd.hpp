@@ -198,8 +198,11 @@ inline float sqrtScalar(float x) { return _mm_cvtss_f32(_mm_sqrt_ss(_mm_set_ss(x
 template <int I, int J, int K, int L>
 inline __m128 pick(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(L, K, J, I)); }
 
-// Lanes where |v| > limit, all ones; false for NaN.
-inline __m128 absAbove(__m128 v, __m128 limit) { return _mm_cmpgt_ps(_mm_andnot_ps(_mm_set1_ps(-0.0f), v), limit); }
+inline __m128 abs(__m128 v) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), v); }
+// Lanes where a > b, all ones; false where either is NaN.
+inline __m128 greater(__m128 a, __m128 b) { return _mm_cmpgt_ps(a, b); }
+// Lanes where |v| > limit.
+inline __m128 absAbove(__m128 v, __m128 limit) { return greater(abs(v), limit); }
 inline __m128 select(__m128 mask, __m128 yes, __m128 no) { return _mm_or_ps(_mm_and_ps(mask, yes), _mm_andnot_ps(mask, no)); }
 inline int signs(__m128 mask) { return _mm_movemask_ps(mask); }
 

@@ -51,43 +51,57 @@ tarnStatus det(const float* src, float* dst) {
 // Gauss-Jordan on a copy A of src beside B = I, the pivot searched along row k among the
 // columns not yet used, which p[] records instead of swapping columns. Rows of A and B live in
 // registers; a row operation on A runs over all four lanes, which changes only columns that no
-// later step reads. The limit on the pivot is absolute: twelve float epsilons.
+// later step reads. The search is branch-free (the first of equal magnitudes stays, a NaN never
+// replaces), so random matrices cost no mispredicted jumps. The limit on the pivot is absolute:
+// twelve float epsilons.
 tarnStatus invert(const float* src, float* det, float* dst) {
   constexpr float kLimit = 1.4305115e-6f;  // 0x35C00000
-  alignas(16) float a[4][4];
-  __m128 b[4];
+  __m128 a[4], b[4];
   for (int i = 0; i < 4; ++i) {
-    simd::store<4, true>(a[i], simd::load<4, false>(src + 4 * i));
+    a[i] = simd::load<4, false>(src + 4 * i);
     b[i] = simd::constant(i == 0, i == 1, i == 2, i == 3);
   }
   int p[4] = {0, 1, 2, 3};
   float d = 1.0f;
-  for (int k = 0; k < 4; ++k) {
-    int best = k;
-    float pivot = a[k][p[k]];
-    for (int j = k + 1; j < 4; ++j)
-      if (std::fabs(a[k][p[j]]) > std::fabs(pivot)) {
-        pivot = a[k][p[j]];
-        best = j;
-      }
+  bool singular = false;
+  simd::unroll<4>([&]<int K>() {
+    if (singular) return;
+    alignas(16) float row[4];
+    simd::store<4, true>(row, a[K]);
+    int best = K, col = p[K];
+    float mag = std::fabs(row[col]);
+    simd::unroll<3 - K>([&]<int J0>() {
+      const int c = p[K + 1 + J0];
+      const float v = std::fabs(row[c]);
+      const bool larger = v > mag;
+      mag = larger ? v : mag;
+      best = larger ? K + 1 + J0 : best;
+      col = larger ? c : col;
+    });
+    const float pivot = row[col];
     if (std::fabs(pivot) < kLimit) {
-      if (det) *det = 0.0f;
-      return tarnStatusSingular;
+      singular = true;
+      return;
     }
-    const int col = p[best];
-    p[best] = p[k];
-    p[k] = col;
+    simd::unroll<3 - K>([&]<int J0>() { p[K + 1 + J0] = best == K + 1 + J0 ? p[K] : p[K + 1 + J0]; });
+    p[K] = col;
     const __m128 pv = simd::broadcast(pivot);
-    const __m128 ak = simd::div(simd::load<4, true>(a[k]), pv);
-    simd::store<4, true>(a[k], ak);
-    b[k] = simd::div(b[k], pv);
+    a[K] = simd::div(a[K], pv);
+    b[K] = simd::div(b[K], pv);
     d = d * pivot;
-    for (int i = 0; i < 4; ++i) {
-      if (i == k) continue;
-      const __m128 f = simd::broadcast(a[i][col]);
-      simd::store<4, true>(a[i], simd::sub(simd::load<4, true>(a[i]), simd::mul(ak, f)));
-      b[i] = simd::sub(b[i], simd::mul(f, b[k]));
-    }
+    simd::unroll<4>([&]<int I>() {
+      if constexpr (I != K) {
+        alignas(16) float r[4];
+        simd::store<4, true>(r, a[I]);
+        const __m128 f = simd::broadcast(r[col]);
+        a[I] = simd::sub(a[I], simd::mul(a[K], f));
+        b[I] = simd::sub(b[I], simd::mul(f, b[K]));
+      }
+    });
+  });
+  if (singular) {
+    if (det) *det = 0.0f;
+    return tarnStatusSingular;
   }
   for (int i = 0; i < 4; ++i) simd::store<4, false>(dst + 4 * p[i], b[i]);
   if (det) {

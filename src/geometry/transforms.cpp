@@ -1,9 +1,10 @@
 // Points and normals through a 4x4 float matrix (16 floats in row order, row vectors from the
 // left): one at a time or over arrays with byte strides of any sign, projection to a viewport
 // and back. The single-point forms run the four result lanes of one register, each lane the
-// scalar sum of its element in the stated order. The array form of the coordinate transform
-// holds four points at a time as one register each of x, y and z, so that one division serves
-// four points; each lane still forms its element's own sum in its own order.
+// scalar sum of its element in the stated order. The array forms of the coordinate transform,
+// Project and Unproject hold four points at a time as one register each of x, y and z, so that
+// one division serves four points; each lane still forms its element's own sum in its own order.
+#include <cstddef>
 #include <cstdint>
 #include <type_traits>
 
@@ -17,7 +18,7 @@ using simd::broadcast;
 using simd::splat;
 
 template <class T>
-T* step(T* p, int32_t bytes) {
+T* step(T* p, std::ptrdiff_t bytes) {
   using B = std::conditional_t<std::is_const_v<T>, const char, char>;
   return reinterpret_cast<T*>(reinterpret_cast<B*>(p) + bytes);
 }
@@ -64,26 +65,58 @@ struct Coord2Arr {
   }
 };
 
-// The array form of the 3-vector coordinate transform on four points a lane: x' starts from y
-// and ends with x, y' and z' start from x, w' starts from y and ends with x.
-struct Coord3Arr {
+// Four points a lane: x, y and z of up to four points in three registers, and a matrix as
+// sixteen broadcast elements.
+struct P3 {
+  __m128 x, y, z;
+};
+struct Broadcast {
   __m128 e[16];
-  explicit Coord3Arr(const float* m) {
+  explicit Broadcast(const float* m) {
     for (int i = 0; i < 16; ++i) e[i] = broadcast(m[i]);
   }
-  const __m128& at(int r, int c) const { return e[4 * r + c]; }
-  template <int K>
-  void operator()(const float* src, int32_t srcStride, float* dst, int32_t dstStride) const {
-    __m128 x, y, z;
-    simd::gather3<K>(src, srcStride, x, y, z);
-    using simd::add, simd::mul;
-    const __m128 xs = add(add(add(mul(at(1, 0), y), at(3, 0)), mul(at(2, 0), z)), mul(at(0, 0), x));
-    const __m128 ys = add(add(add(mul(at(0, 1), x), at(3, 1)), mul(at(1, 1), y)), mul(at(2, 1), z));
-    const __m128 zs = add(add(add(mul(at(0, 2), x), at(3, 2)), mul(at(1, 2), y)), mul(at(2, 2), z));
-    const __m128 ws = add(add(add(mul(at(1, 3), y), at(3, 3)), mul(at(2, 3), z)), mul(at(0, 3), x));
-    simd::scatter3<K>(dst, dstStride, simd::div(xs, ws), simd::div(ys, ws), simd::div(zs, ws));
-  }
+  const __m128& operator()(int r, int c) const { return e[4 * r + c]; }
 };
+
+// Runs f on the points four at a time (the last group with K < 4 of them), reading and writing
+// each point's own 12 bytes.
+template <class F>
+void inFours(const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count, F&& f) {
+  auto group = [&]<int K>() {
+    P3 p;
+    simd::gather3<K>(src, srcStride, p.x, p.y, p.z);
+    const P3 q = f(p);
+    simd::scatter3<K>(dst, dstStride, q.x, q.y, q.z);
+  };
+  int32_t n = 0;
+  for (; n + 4 <= count; n += 4, src = step(src, 4 * std::ptrdiff_t(srcStride)),
+                                   dst = step(dst, 4 * std::ptrdiff_t(dstStride)))
+    group.template operator()<4>();
+  switch (count - n) {
+    case 3: group.template operator()<3>(); break;
+    case 2: group.template operator()<2>(); break;
+    case 1: group.template operator()<1>(); break;
+  }
+}
+
+// The array form of the 3-vector coordinate transform: x' starts from y and ends with x, y' and
+// z' start from x, w' starts from y and ends with x.
+P3 coordArr(const Broadcast& m, const P3& p) {
+  using simd::add, simd::mul;
+  const __m128 xs = add(add(add(mul(m(1, 0), p.y), m(3, 0)), mul(m(2, 0), p.z)), mul(m(0, 0), p.x));
+  const __m128 ys = add(add(add(mul(m(0, 1), p.x), m(3, 1)), mul(m(1, 1), p.y)), mul(m(2, 1), p.z));
+  const __m128 zs = add(add(add(mul(m(0, 2), p.x), m(3, 2)), mul(m(1, 2), p.y)), mul(m(2, 2), p.z));
+  const __m128 ws = add(add(add(mul(m(1, 3), p.y), m(3, 3)), mul(m(2, 3), p.z)), mul(m(0, 3), p.x));
+  return {simd::div(xs, ws), simd::div(ys, ws), simd::div(zs, ws)};
+}
+
+// The single form's sums, (m[3][i] + m[2][i]*z) + (m[0][i]*x + m[1][i]*y), on four points.
+P3 coordOne(const Broadcast& m, const P3& p) {
+  using simd::add, simd::mul;
+  auto t = [&](int i) { return add(add(m(3, i), mul(m(2, i), p.z)), add(mul(m(0, i), p.x), mul(m(1, i), p.y))); };
+  const __m128 w = t(3);
+  return {simd::div(t(0), w), simd::div(t(1), w), simd::div(t(2), w)};
+}
 
 // Runs f(src, dst) over count points.
 template <class F>
@@ -148,37 +181,30 @@ tarnStatus coordV3(const float* m, const float* src, float* dst) {
 
 tarnStatus coordV3Arr(const float* m, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count) {
   if (count < 1) return tarnStatusOk;
-  const Coord3Arr f(m);
-  int32_t n = 0;
-  for (; n + 4 <= count; n += 4, src = step(src, 4 * srcStride), dst = step(dst, 4 * dstStride))
-    f.operator()<4>(src, srcStride, dst, dstStride);
-  switch (count - n) {
-    case 3: f.operator()<3>(src, srcStride, dst, dstStride); break;
-    case 2: f.operator()<2>(src, srcStride, dst, dstStride); break;
-    case 1: f.operator()<1>(src, srcStride, dst, dstStride); break;
-  }
+  const Broadcast b(m);
+  inFours(src, srcStride, dst, dstStride, count, [&](const P3& p) { return coordArr(b, p); });
   return tarnStatusOk;
 }
 
-// World, view and projection in turn, each a coordinate transform, then to the viewport (no
-// offset for its position).
+// World, view and projection in turn, each the single-point coordinate transform, then to the
+// viewport (no offset for its position). The array forms take four points a lane through the
+// same sums.
 namespace {
-void projectPoint(const float* proj, const float* view, const float* world, const float* src, float vw, float vh,
-                  float minZ, float maxZ, float* dst) {
-  float t[3];
-  coordV3(world, src, t);
-  coordV3(view, t, t);
-  coordV3(proj, t, t);
-  dst[0] = ((t[0] + 1.0f) * vw) * 0.5f;
-  dst[1] = ((1.0f - t[1]) * vh) * 0.5f;
-  dst[2] = (1.0f - t[2]) * minZ + maxZ * t[2];
-}
+struct Viewport {
+  float w, h, minZ, maxZ;
+};
 
-// Viewport coordinates to the cube the projection maps to.
-void normalisedPoint(const float* src, float vw, float vh, float minZ, float maxZ, float* dst) {
-  dst[0] = (2.0f * src[0]) / vw - 1.0f;
-  dst[1] = 1.0f + (-2.0f * src[1]) / vh;
-  dst[2] = (src[2] - minZ) / (maxZ - minZ);
+// Viewport coordinates to the cube the projection maps to, for one point or four a lane.
+void normalise(const float* s, Viewport vp, float* out) {
+  out[0] = (2.0f * s[0]) / vp.w - 1.0f;
+  out[1] = 1.0f + (-2.0f * s[1]) / vp.h;
+  out[2] = (s[2] - vp.minZ) / (vp.maxZ - vp.minZ);
+}
+P3 normalise(const P3& s, Viewport vp) {
+  using simd::add, simd::sub, simd::mul, simd::div;
+  return {sub(div(mul(broadcast(2.0f), s.x), broadcast(vp.w)), broadcast(1.0f)),
+          add(broadcast(1.0f), div(mul(broadcast(-2.0f), s.y), broadcast(vp.h))),
+          div(sub(s.z, broadcast(vp.minZ)), broadcast(vp.maxZ - vp.minZ))};
 }
 
 // The inverse of (world * view) * projection; the determinant is not asked for.
@@ -192,15 +218,27 @@ tarnStatus unprojection(const float* proj, const float* view, const float* world
 
 tarnStatus project(const float* proj, const float* view, const float* world, const float* src, float vw, float vh,
                    float minZ, float maxZ, float* dst) {
-  projectPoint(proj, view, world, src, vw, vh, minZ, maxZ, dst);
+  float t[3];
+  coordV3(world, src, t);
+  coordV3(view, t, t);
+  coordV3(proj, t, t);
+  dst[0] = ((t[0] + 1.0f) * vw) * 0.5f;
+  dst[1] = ((1.0f - t[1]) * vh) * 0.5f;
+  dst[2] = (1.0f - t[2]) * minZ + maxZ * t[2];
   return tarnStatusOk;
 }
 
 tarnStatus projectArr(const float* proj, const float* view, const float* world, const float* src, int32_t srcStride,
                       float vw, float vh, float minZ, float maxZ, float* dst, int32_t dstStride, int32_t count) {
   if (count < 1) return tarnStatusOk;
-  each(src, srcStride, dst, dstStride, count,
-       [&](const float* s, float* d) { projectPoint(proj, view, world, s, vw, vh, minZ, maxZ, d); });
+  const Broadcast w(world), v(view), p(proj);
+  using simd::add, simd::sub, simd::mul;
+  const __m128 one = broadcast(1.0f), half = broadcast(0.5f);
+  inFours(src, srcStride, dst, dstStride, count, [&](const P3& s) {
+    const P3 t = coordOne(p, coordOne(v, coordOne(w, s)));
+    return P3{mul(mul(add(t.x, one), broadcast(vw)), half), mul(mul(sub(one, t.y), broadcast(vh)), half),
+              add(mul(sub(one, t.z), broadcast(minZ)), mul(broadcast(maxZ), t.z))};
+  });
   return tarnStatusOk;
 }
 
@@ -208,7 +246,7 @@ tarnStatus projectArr(const float* proj, const float* view, const float* world, 
 // is singular.
 tarnStatus unproject(const float* proj, const float* view, const float* world, const float* src, float vw, float vh,
                      float minZ, float maxZ, float* dst) {
-  normalisedPoint(src, vw, vh, minZ, maxZ, dst);
+  normalise(src, {vw, vh, minZ, maxZ}, dst);
   float inv[16];
   if (const tarnStatus s = unprojection(proj, view, world, inv)) return s;
   return coordV3(inv, dst, dst);
@@ -220,11 +258,9 @@ tarnStatus unprojectArr(const float* proj, const float* view, const float* world
   if (count < 1) return tarnStatusOk;
   float inv[16];
   if (const tarnStatus s = unprojection(proj, view, world, inv)) return s;
-  each(src, srcStride, dst, dstStride, count, [&](const float* s, float* d) {
-    float n[3];
-    normalisedPoint(s, vw, vh, minZ, maxZ, n);
-    coordV3(inv, n, d);
-  });
+  const Broadcast m(inv);
+  const Viewport vp{vw, vh, minZ, maxZ};
+  inFours(src, srcStride, dst, dstStride, count, [&](const P3& s) { return coordOne(m, normalise(s, vp)); });
   return tarnStatusOk;
 }
 
