@@ -3,12 +3,14 @@
 // access to a 3-vector, say) faults or shows.
 #pragma once
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <random>
+#include <string>
 
 #include "operand.hpp"
 
@@ -26,6 +28,14 @@ struct Fixed {
     return true;
   }
 };
+
+// The export of that name, as a pointer of the type its parameter list has.
+template <class Fn>
+Fn exported(const std::string& name) {
+  void* p = dlsym(RTLD_DEFAULT, name.c_str());
+  if (!p) ADD_FAILURE() << "no export " << name;
+  return reinterpret_cast<Fn>(p);
+}
 
 inline uint32_t bitsOf(float v) {
   uint32_t b;

@@ -38,27 +38,18 @@ void fill(std::mt19937& rng, float* p, int n, bool specials = false) {
 using One = tarnStatus (*)(const float*, const float*, float*);
 using Arr = tarnStatus (*)(const float*, const float*, int32_t, float*, int32_t, int32_t);
 struct Form {
-  const char* name;
+  const char* name;  // the single form; the array form adds `a`
   int n, out;
-  One one;
-  Arr arr;
   std::function<void(const float* m, const float* v, float* d, bool array)> model;
 };
 const Form kForms[] = {
-    {"AffineTransform_m4v2", 2, 4, tarnAffineTransform_m4v2_32f, tarnAffineTransform_m4v2a_32f,
-     [](const float* m, const float* v, float* d, bool) { ref::affine(m, v, d, 2); }},
-    {"AffineTransform_m4v3", 3, 4, tarnAffineTransform_m4v3_32f, tarnAffineTransform_m4v3a_32f,
-     [](const float* m, const float* v, float* d, bool) { ref::affine(m, v, d, 3); }},
-    {"AffineTransform_m4v4", 4, 4, tarnAffineTransform_m4v4_32f, tarnAffineTransform_m4v4a_32f,
-     [](const float* m, const float* v, float* d, bool) { ref::affine(m, v, d, 4); }},
-    {"AffineTransformCoord_m4v2", 2, 2, tarnAffineTransformCoord_m4v2_32f, tarnAffineTransformCoord_m4v2a_32f,
-     [](const float* m, const float* v, float* d, bool a) { ref::coord(m, v, d, 2, a); }},
-    {"AffineTransformCoord_m4v3", 3, 3, tarnAffineTransformCoord_m4v3_32f, tarnAffineTransformCoord_m4v3a_32f,
-     [](const float* m, const float* v, float* d, bool a) { ref::coord(m, v, d, 3, a); }},
-    {"AffineTransformNormal_m4v2", 2, 2, tarnAffineTransformNormal_m4v2_32f, tarnAffineTransformNormal_m4v2a_32f,
-     [](const float* m, const float* v, float* d, bool) { ref::normal(m, v, d, 2); }},
-    {"AffineTransformNormal_m4v3", 3, 3, tarnAffineTransformNormal_m4v3_32f, tarnAffineTransformNormal_m4v3a_32f,
-     [](const float* m, const float* v, float* d, bool) { ref::normal(m, v, d, 3); }},
+    {"tarnAffineTransform_m4v2", 2, 4, [](const float* m, const float* v, float* d, bool) { ref::affine(m, v, d, 2); }},
+    {"tarnAffineTransform_m4v3", 3, 4, [](const float* m, const float* v, float* d, bool) { ref::affine(m, v, d, 3); }},
+    {"tarnAffineTransform_m4v4", 4, 4, [](const float* m, const float* v, float* d, bool) { ref::affine(m, v, d, 4); }},
+    {"tarnAffineTransformCoord_m4v2", 2, 2, [](const float* m, const float* v, float* d, bool a) { ref::coord(m, v, d, 2, a); }},
+    {"tarnAffineTransformCoord_m4v3", 3, 3, [](const float* m, const float* v, float* d, bool a) { ref::coord(m, v, d, 3, a); }},
+    {"tarnAffineTransformNormal_m4v2", 2, 2, [](const float* m, const float* v, float* d, bool) { ref::normal(m, v, d, 2); }},
+    {"tarnAffineTransformNormal_m4v3", 3, 3, [](const float* m, const float* v, float* d, bool) { ref::normal(m, v, d, 3); }},
 };
 const int kCounts[] = {0, -2, 1, 3, 4, 6, 13};
 
@@ -72,7 +63,7 @@ TEST(GeometryTransforms, SingleAndArrayFormsAddInTheirOwnOrders) {
       fill(rng, src.p, f.n);
       float want[4];
       f.model(m.p, src.p, want, false);
-      ASSERT_EQ(f.one(m.p, src.p, dst.p), tarnStatusOk);
+      ASSERT_EQ(exported<One>(f.name + std::string("_32f"))(m.p, src.p, dst.p), tarnStatusOk);
       ASSERT_TRUE(sameFloats(dst.p, want, f.out)) << f.name << " trial " << trial;
     }
     EXPECT_TRUE(src.leadIntact() && dst.leadIntact() && m.leadIntact());
@@ -86,7 +77,7 @@ TEST(GeometryTransforms, SingleAndArrayFormsAddInTheirOwnOrders) {
           auto want = dst.bytes();
           auto wantAt = [&](int k) { return reinterpret_cast<float*>(want.data() + dst.offset(k)); };
           for (int k = 0; k < count; ++k) f.model(m.p, src.at(k), wantAt(k), true);
-          ASSERT_EQ(f.arr(m.p, src.at(0), ss, dst.at(0), ds, count), tarnStatusOk);
+          ASSERT_EQ(exported<Arr>(f.name + std::string("a_32f"))(m.p, src.at(0), ss, dst.at(0), ds, count), tarnStatusOk);
           EXPECT_EQ(src.bytes(), srcBefore) << f.name;
           for (int k = 0; k < count; ++k) {
             ASSERT_TRUE(sameFloats(dst.at(k), wantAt(k), f.out))
