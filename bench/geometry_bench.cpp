@@ -57,7 +57,7 @@ void fillRandom(float* p, size_t k, float lo, float hi, unsigned seed) {
 
 void points(Batch& b, bool columns) {
   camera(b.m, columns);
-  fillRandom(b.s(), size_t(b.n) * 3, -10, 10, 7);
+  fillRandom(b.s(), size_t(b.n) * 3, -5, 5, 7);  // in front of the camera
 }
 
 void coordPlain(const Batch& b) {
@@ -112,7 +112,8 @@ void mulPlain(const Batch& b) {
     float* d = b.d() + 16 * size_t(k);
     for (int i = 0; i < 4; ++i)
       for (int j = 0; j < 4; ++j)
-        d[4 * i + j] = ((x[4 * i] * y[j] + x[4 * i + 1] * y[4 + j]) + x[4 * i + 2] * y[8 + j]) + x[4 * i + 3] * y[12 + j];
+        d[4 * i + j] =
+            ((x[4 * i] * y[j] + x[4 * i + 1] * y[4 + j]) + x[4 * i + 2] * y[8 + j]) + x[4 * i + 3] * y[12 + j];
   }
 }
 
@@ -217,18 +218,36 @@ std::vector<Workload> workloads() {
   using glm::aligned_mat4, glm::aligned_vec4, glm::mat4, glm::vec4;
   const std::vector<int32_t> clouds = {2000, 100000, 1000000}, calls = {1000};
   return {
-      {"tarnAffineTransformCoord_m4v3a_32f/v3", clouds, 24, 3, 3, [](Batch& b) { points(b, false); }, coordPlain,
+      {"tarnAffineTransformCoord_m4v3a_32f/v3",
+       clouds,
+       24,
+       3,
+       3,
+       [](Batch& b) { points(b, false); },
+       coordPlain,
        {{"tarn", [](const Batch& b) { tarnAffineTransformCoord_m4v3a_32f(b.m, b.s(), 12, b.d(), 12, b.n); }},
         {"plain", coordPlain},
         {"glm", [](const Batch& b) { glmPoints<mat4, vec4>(b, false); }},
         {"glm-simd", [](const Batch& b) { glmPoints<aligned_mat4, aligned_vec4>(b, false); }}}},
-      {"tarnAffineTransform3DH_mva_32f/v3", clouds, 24, 3, 3, [](Batch& b) { points(b, true); }, h3dPlain,
+      {"tarnAffineTransform3DH_mva_32f/v3",
+       clouds,
+       24,
+       3,
+       3,
+       [](Batch& b) { points(b, true); },
+       h3dPlain,
        {{"tarn", [](const Batch& b) { tarnAffineTransform3DH_mva_32f(b.m, 16, 4, b.s(), 12, 4, b.d(), 12, 4, b.n); }},
         {"plain", h3dPlain},
         {"glm", [](const Batch& b) { glmPoints<mat4, vec4>(b, true); }},
         {"glm-simd", [](const Batch& b) { glmPoints<aligned_mat4, aligned_vec4>(b, true); }}},
        true},
-      {"tarnMul_mm4x4_32f/4x4", calls, 192, 32, 16, [](Batch& b) { fillRandom(b.s(), size_t(b.n) * 32, -1, 1, 8); }, mulPlain,
+      {"tarnMul_mm4x4_32f/4x4",
+       calls,
+       192,
+       32,
+       16,
+       [](Batch& b) { fillRandom(b.s(), size_t(b.n) * 32, -1, 1, 8); },
+       mulPlain,
        {{"tarn",
          [](const Batch& b) {
            for (int32_t k = 0; k < b.n; ++k)
@@ -237,7 +256,11 @@ std::vector<Workload> workloads() {
         {"plain", mulPlain},
         {"glm", glmMul<mat4>},
         {"glm-simd", glmMul<aligned_mat4>}}},
-      {"tarnInvert_m4_32f/4x4", calls, 128, 16, 16,
+      {"tarnInvert_m4_32f/4x4",
+       calls,
+       128,
+       16,
+       16,
        [](Batch& b) {
          fillRandom(b.s(), size_t(b.n) * 16, -1, 1, 9);
          for (int32_t k = 0; k < b.n; ++k)
@@ -251,7 +274,12 @@ std::vector<Workload> workloads() {
         {"plain", invertPlain},
         {"glm", glmInvert<mat4>},
         {"glm-simd", glmInvert<aligned_mat4>}}},
-      {"tarnNormalize_v3_32f/v3", calls, 24, 3, 3, [](Batch& b) { fillRandom(b.s(), size_t(b.n) * 3, -10, 10, 10); },
+      {"tarnNormalize_v3_32f/v3",
+       calls,
+       24,
+       3,
+       3,
+       [](Batch& b) { fillRandom(b.s(), size_t(b.n) * 3, -10, 10, 10); },
        normalizePlain,
        {{"tarn",
          [](const Batch& b) {

@@ -7,6 +7,7 @@
 
 #include <pmmintrin.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <type_traits>
 #include <utility>
@@ -188,8 +189,8 @@ inline void storeVec(float* p, __m128 v) {
 
 inline __m128 div(__m128 a, __m128 b) { return _mm_div_ps(a, b); }
 // a < b ? a : b and a > b ? a : b per lane: b on NaN or equal zeros.
-inline __m128 min(__m128 a, __m128 b) { return _mm_min_ps(a, b); }
-inline __m128 max(__m128 a, __m128 b) { return _mm_max_ps(a, b); }
+inline __m128 minLanes(__m128 a, __m128 b) { return _mm_min_ps(a, b); }
+inline __m128 maxLanes(__m128 a, __m128 b) { return _mm_max_ps(a, b); }
 inline float first(__m128 v) { return _mm_cvtss_f32(v); }
 // The correctly rounded square root of one float.
 inline float sqrtScalar(float x) { return _mm_cvtss_f32(_mm_sqrt_ss(_mm_set_ss(x))); }
@@ -198,11 +199,11 @@ inline float sqrtScalar(float x) { return _mm_cvtss_f32(_mm_sqrt_ss(_mm_set_ss(x
 template <int I, int J, int K, int L>
 inline __m128 pick(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(L, K, J, I)); }
 
-inline __m128 abs(__m128 v) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), v); }
+inline __m128 absLanes(__m128 v) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), v); }
 // Lanes where a > b, all ones; false where either is NaN.
 inline __m128 greater(__m128 a, __m128 b) { return _mm_cmpgt_ps(a, b); }
 // Lanes where |v| > limit.
-inline __m128 absAbove(__m128 v, __m128 limit) { return greater(abs(v), limit); }
+inline __m128 absAbove(__m128 v, __m128 limit) { return greater(absLanes(v), limit); }
 inline __m128 select(__m128 mask, __m128 yes, __m128 no) { return _mm_or_ps(_mm_and_ps(mask, yes), _mm_andnot_ps(mask, no)); }
 inline int signs(__m128 mask) { return _mm_movemask_ps(mask); }
 
@@ -212,7 +213,8 @@ inline int signs(__m128 mask) { return _mm_movemask_ps(mask); }
 template <int K>
 inline void gather3(const float* p, int32_t stride, __m128& x, __m128& y, __m128& z) {
   const float* q[4];
-  for (int k = 0; k < 4; ++k) q[k] = k < K ? reinterpret_cast<const float*>(reinterpret_cast<const char*>(p) + std::ptrdiff_t(k) * stride) : p;
+  for (int k = 0; k < 4; ++k)
+    q[k] = k < K ? reinterpret_cast<const float*>(reinterpret_cast<const char*>(p) + std::ptrdiff_t(k) * stride) : p;
   const __m128 ab = _mm_loadh_pi(load<2, false>(q[0]), reinterpret_cast<const __m64*>(q[1]));
   const __m128 cd = _mm_loadh_pi(load<2, false>(q[2]), reinterpret_cast<const __m64*>(q[3]));
   x = pick<0, 2, 0, 2>(ab, cd);

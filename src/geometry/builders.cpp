@@ -34,8 +34,10 @@ M4 identity() {
 template <bool LH>
 tarnStatus lookAt(const float* eye, const float* at, const float* up, float* dst) {
   float dir[3], z[3], side[3], x[3], y[3], ex, ey, ez;
-  if constexpr (LH) vec::sub<3>(at, eye, dir);
-  else vec::sub<3>(eye, at, dir);
+  if constexpr (LH)
+    vec::sub<3>(at, eye, dir);
+  else
+    vec::sub<3>(eye, at, dir);
   vec::normalize<3>(dir, z);
   vec::cross3(up, z, side);
   vec::normalize<3>(side, x);

@@ -39,7 +39,9 @@ bool fourPoints(const Matrix& mx, const float* src, int32_t srcStride, float* ds
   using simd::add, simd::mul;
   __m128 x, y, z;
   simd::gather3<K>(src, srcStride, x, y, z);
-  auto row = [&](int r) { return add(add(mul(x, mx.e[r][0]), mul(y, mx.e[r][1])), add(mul(z, mx.e[r][2]), mx.e[r][3])); };
+  auto row = [&](int r) {
+    return add(add(mul(x, mx.e[r][0]), mul(y, mx.e[r][1])), add(mul(z, mx.e[r][2]), mx.e[r][3]));
+  };
   const __m128 w = row(3);
   const __m128 ok = simd::absAbove(w, simd::broadcast(kSmallest));
   const __m128 inv = simd::div(simd::broadcast(1.0f), w), big = simd::broadcast(kFailed);
@@ -48,7 +50,8 @@ bool fourPoints(const Matrix& mx, const float* src, int32_t srcStride, float* ds
   return simd::signs(ok) == 0xF;  // lanes past K repeat point 0
 }
 
-tarnStatus contiguous(const Matrix& mx, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count) {
+tarnStatus contiguous(const Matrix& mx, const float* src, int32_t srcStride, float* dst, int32_t dstStride,
+                      int32_t count) {
   bool ok = true;
   int32_t n = 0;
   for (; n + 4 <= count; n += 4) {
@@ -57,9 +60,15 @@ tarnStatus contiguous(const Matrix& mx, const float* src, int32_t srcStride, flo
   const float* s = byteAdd(src, off32(n, srcStride));
   float* d = byteAdd(dst, off32(n, dstStride));
   switch (count - n) {
-    case 3: ok &= fourPoints<3>(mx, s, srcStride, d, dstStride); break;
-    case 2: ok &= fourPoints<2>(mx, s, srcStride, d, dstStride); break;
-    case 1: ok &= fourPoints<1>(mx, s, srcStride, d, dstStride); break;
+    case 3:
+      ok &= fourPoints<3>(mx, s, srcStride, d, dstStride);
+      break;
+    case 2:
+      ok &= fourPoints<2>(mx, s, srcStride, d, dstStride);
+      break;
+    case 1:
+      ok &= fourPoints<1>(mx, s, srcStride, d, dstStride);
+      break;
   }
   return ok ? tarnStatusOk : tarnStatusDivideByZero;
 }
@@ -95,9 +104,10 @@ tarnStatus run(const Plan& plan, const Call& c) {
   return drive<T, L>(plan, c, [&]<bool Contig>(const Call& s) -> tarnStatus {
     const Blk &src = s.op[1], &dst = s.op[2];
     if constexpr (Contig)
-      return contiguous(mx, static_cast<const float*>(src.ptr), src.obj, static_cast<float*>(const_cast<void*>(dst.ptr)),
-                        dst.obj, s.count);
-    else return strided(mx, src, dst, s.count);
+      return contiguous(mx, static_cast<const float*>(src.ptr), src.obj,
+                        static_cast<float*>(const_cast<void*>(dst.ptr)), dst.obj, s.count);
+    else
+      return strided(mx, src, dst, s.count);
   });
 }
 

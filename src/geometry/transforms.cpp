@@ -26,7 +26,9 @@ T* step(T* p, std::ptrdiff_t bytes) {
 struct Rows {
   __m128 r0, r1, r2, r3;
   explicit Rows(const float* m)
-      : r0(simd::load<4, false>(m)), r1(simd::load<4, false>(m + 4)), r2(simd::load<4, false>(m + 8)),
+      : r0(simd::load<4, false>(m)),
+        r1(simd::load<4, false>(m + 4)),
+        r2(simd::load<4, false>(m + 8)),
         r3(simd::load<4, false>(m + 12)) {}
 };
 
@@ -45,8 +47,10 @@ __m128 affine(const Rows& m, __m128 v) {
 template <int N>
 __m128 normal(const Rows& m, __m128 v) {
   const __m128 xy = simd::add(simd::mul(m.r0, splat<0>(v)), simd::mul(m.r1, splat<1>(v)));
-  if constexpr (N == 2) return xy;
-  else return simd::add(xy, simd::mul(m.r2, splat<2>(v)));
+  if constexpr (N == 2)
+    return xy;
+  else
+    return simd::add(xy, simd::mul(m.r2, splat<2>(v)));
 }
 
 // Lanes divided by lane 3.
@@ -57,7 +61,8 @@ __m128 perspectiveDivide(__m128 t) { return simd::div(t, splat<3>(t)); }
 struct Coord2Arr {
   __m128 a1, a2, r3;
   explicit Coord2Arr(const float* m)
-      : a1(simd::constant(m[4], m[1], 0.0f, m[7])), a2(simd::constant(m[0], m[5], 0.0f, m[3])),
+      : a1(simd::constant(m[4], m[1], 0.0f, m[7])),
+        a2(simd::constant(m[0], m[5], 0.0f, m[3])),
         r3(simd::load<4, false>(m + 12)) {}
   __m128 operator()(__m128 v) const {  // v = (x, y, ...)
     const __m128 p1 = simd::pick<1, 0, 1, 1>(v, v), p2 = simd::pick<0, 1, 0, 0>(v, v);
@@ -89,13 +94,19 @@ void inFours(const float* src, int32_t srcStride, float* dst, int32_t dstStride,
     simd::scatter3<K>(dst, dstStride, q.x, q.y, q.z);
   };
   int32_t n = 0;
-  for (; n + 4 <= count; n += 4, src = step(src, 4 * std::ptrdiff_t(srcStride)),
-                                   dst = step(dst, 4 * std::ptrdiff_t(dstStride)))
+  for (; n + 4 <= count;
+       n += 4, src = step(src, 4 * std::ptrdiff_t(srcStride)), dst = step(dst, 4 * std::ptrdiff_t(dstStride)))
     group.template operator()<4>();
   switch (count - n) {
-    case 3: group.template operator()<3>(); break;
-    case 2: group.template operator()<2>(); break;
-    case 1: group.template operator()<1>(); break;
+    case 3:
+      group.template operator()<3>();
+      break;
+    case 2:
+      group.template operator()<2>();
+      break;
+    case 1:
+      group.template operator()<1>();
+      break;
   }
 }
 
@@ -133,7 +144,8 @@ tarnStatus affineOne(const float* m, const float* src, float* dst) {
 }
 
 template <int N>
-tarnStatus affineArr(const float* m, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count) {
+tarnStatus affineArr(const float* m, const float* src, int32_t srcStride, float* dst, int32_t dstStride,
+                     int32_t count) {
   if (count < 1) return tarnStatusOk;
   const Rows r(m);
   each(src, srcStride, dst, dstStride, count,
@@ -148,7 +160,8 @@ tarnStatus normalOne(const float* m, const float* src, float* dst) {
 }
 
 template <int N>
-tarnStatus normalArr(const float* m, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count) {
+tarnStatus normalArr(const float* m, const float* src, int32_t srcStride, float* dst, int32_t dstStride,
+                     int32_t count) {
   if (count < 1) return tarnStatusOk;
   const Rows r(m);
   each(src, srcStride, dst, dstStride, count,
@@ -162,10 +175,12 @@ tarnStatus coordV2(const float* m, const float* src, float* dst) {
   return tarnStatusOk;
 }
 
-tarnStatus coordV2Arr(const float* m, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count) {
+tarnStatus coordV2Arr(const float* m, const float* src, int32_t srcStride, float* dst, int32_t dstStride,
+                      int32_t count) {
   if (count < 1) return tarnStatusOk;
   const Coord2Arr f(m);
-  each(src, srcStride, dst, dstStride, count, [&](const float* s, float* d) { simd::storeVec<2>(d, f(simd::loadVec<2>(s))); });
+  each(src, srcStride, dst, dstStride, count,
+       [&](const float* s, float* d) { simd::storeVec<2>(d, f(simd::loadVec<2>(s))); });
   return tarnStatusOk;
 }
 
@@ -179,7 +194,8 @@ tarnStatus coordV3(const float* m, const float* src, float* dst) {
   return tarnStatusOk;
 }
 
-tarnStatus coordV3Arr(const float* m, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count) {
+tarnStatus coordV3Arr(const float* m, const float* src, int32_t srcStride, float* dst, int32_t dstStride,
+                      int32_t count) {
   if (count < 1) return tarnStatusOk;
   const Broadcast b(m);
   inFours(src, srcStride, dst, dstStride, count, [&](const P3& p) { return coordArr(b, p); });

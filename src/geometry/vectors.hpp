@@ -34,12 +34,12 @@ tarnStatus mulC(const float* a, float c, float* d) {
 // a < b ? a : b and a > b ? a : b: src2's element on a NaN or on two zeros.
 template <int N>
 tarnStatus min(const float* a, const float* b, float* d) {
-  storeVec<N>(d, simd::min(loadVec<N>(a), loadVec<N>(b)));
+  storeVec<N>(d, simd::minLanes(loadVec<N>(a), loadVec<N>(b)));
   return tarnStatusOk;
 }
 template <int N>
 tarnStatus max(const float* a, const float* b, float* d) {
-  storeVec<N>(d, simd::max(loadVec<N>(a), loadVec<N>(b)));
+  storeVec<N>(d, simd::maxLanes(loadVec<N>(a), loadVec<N>(b)));
   return tarnStatusOk;
 }
 
@@ -75,8 +75,10 @@ template <int N>
 tarnStatus normalize(const float* a, float* d) {
   const __m128 v = loadVec<N>(a);
   float sq;
-  if constexpr (N == 4) sq = ((a[1] * a[1] + a[2] * a[2]) + a[3] * a[3]) + a[0] * a[0];
-  else sq = dotOf<N>(a, a);
+  if constexpr (N == 4)
+    sq = ((a[1] * a[1] + a[2] * a[2]) + a[3] * a[3]) + a[0] * a[0];
+  else
+    sq = dotOf<N>(a, a);
   storeVec<N>(d, simd::div(v, simd::broadcast(simd::sqrtScalar(sq))));
   return tarnStatusOk;
 }

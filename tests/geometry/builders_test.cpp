@@ -32,8 +32,21 @@ double ulpsOff(float got, long double want) {
 
 TEST(GeometryBuilders, SineAndCosineWithinOneUlpAtAnySize) {
   std::mt19937 rng(7);
-  std::vector<float> angles = {0.0f, -0.0f, 1e-30f, -1e-40f, 0.78539819f, 0.78539813f, 1.5707964f, 3.1415927f, -4.712389f,
-                               16367173.0f * 0x1p72f, 0x1.99bc5cp+27f, 1e38f, -3.4028235e38f, 1e9f, 100.0f};
+  std::vector<float> angles = {0.0f,
+                               -0.0f,
+                               1e-30f,
+                               -1e-40f,
+                               0.78539819f,
+                               0.78539813f,
+                               1.5707964f,
+                               3.1415927f,
+                               -4.712389f,
+                               16367173.0f * 0x1p72f,
+                               0x1.99bc5cp+27f,
+                               1e38f,
+                               -3.4028235e38f,
+                               1e9f,
+                               100.0f};
   for (int i = 0; i < 20000; ++i) {  // every binade from 2^-20 to the largest float
     const uint32_t bits = (uint32_t(107 + rng() % 148) << 23) | (rng() & 0x807FFFFFu);
     float a;
@@ -114,11 +127,15 @@ using Call = std::function<tarnStatus(const std::string& name, const float* k, c
 using F4 = tarnStatus (*)(float, float, float, float, float*);
 using F6 = tarnStatus (*)(float, float, float, float, float, float, float*);
 using F3 = tarnStatus (*)(float, float, float, float*);
-const Call kFour = [](const std::string& n, const float* k, const float*, float* d) { return exported<F4>(n)(k[0], k[1], k[2], k[3], d); };
+const Call kFour = [](const std::string& n, const float* k, const float*, float* d) {
+  return exported<F4>(n)(k[0], k[1], k[2], k[3], d);
+};
 const Call kSix = [](const std::string& n, const float* k, const float*, float* d) {
   return exported<F6>(n)(k[0], k[1], k[2], k[3], k[4], k[5], d);
 };
-const Call kThree = [](const std::string& n, const float* k, const float*, float* d) { return exported<F3>(n)(k[0], k[1], k[2], d); };
+const Call kThree = [](const std::string& n, const float* k, const float*, float* d) {
+  return exported<F3>(n)(k[0], k[1], k[2], d);
+};
 const Call kAngle = [](const std::string& n, const float* k, const float*, float* d) {
   return exported<tarnStatus (*)(float, float*)>(n)(k[0], d);
 };
@@ -134,7 +151,8 @@ std::vector<Builder> builders() {
     const std::string h = lh ? "LH" : "RH";
     b.push_back({"LookAt" + h,
                  [](const std::string& n, const float*, const float* v, float* d) {
-                   return exported<tarnStatus (*)(const float*, const float*, const float*, float*)>(n)(v, v + 3, v + 6, d);
+                   return exported<tarnStatus (*)(const float*, const float*, const float*, float*)>(n)(v, v + 3, v + 6,
+                                                                                                        d);
                  },
                  [lh](const float* k, float* m) { lookAtModel(k, lh, m); }});
     b.push_back({"Ortho" + h, kFour, [lh](const float* k, float* m) { orthoModel(k, lh, false, m); }});
@@ -144,7 +162,8 @@ std::vector<Builder> builders() {
     b.push_back({"PerspectiveFov" + h, kFour, [lh](const float* k, float* m) { perspectiveModel(k, lh, 2, m); }});
   }
   for (int axis = 0; axis < 3; ++axis)
-    b.push_back({std::string("Rotation") + "XYZ"[axis], kAngle, [axis](const float* k, float* m) { rotationModel(k[0], axis, m); }});
+    b.push_back({std::string("Rotation") + "XYZ"[axis], kAngle,
+                 [axis](const float* k, float* m) { rotationModel(k[0], axis, m); }});
   b.push_back({"RotationAxis",
                [](const std::string& n, const float* k, const float* v, float* d) {
                  return exported<tarnStatus (*)(const float*, float, float*)>(n)(v, k[3], d);
@@ -160,14 +179,21 @@ std::vector<Builder> builders() {
                }});
   b.push_back({"RotationYawPitchRoll", kThree, [](const float* k, float* m) {
                  const SC y = sinCos(k[0]), p = sinCos(k[1]), r = sinCos(k[2]);
-                 const float u[9] = {r.s * (y.s * p.s) + y.c * r.c, p.c * r.s, r.s * (p.s * y.c) - y.s * r.c,
-                                     (y.s * p.s) * r.c - y.c * r.s, p.c * r.c, y.s * r.s + r.c * (p.s * y.c),
-                                     y.s * p.c,                     0.0f - p.s, y.c * p.c};
+                 const float u[9] = {r.s * (y.s * p.s) + y.c * r.c,
+                                     p.c * r.s,
+                                     r.s * (p.s * y.c) - y.s * r.c,
+                                     (y.s * p.s) * r.c - y.c * r.s,
+                                     p.c * r.c,
+                                     y.s * r.s + r.c * (p.s * y.c),
+                                     y.s * p.c,
+                                     0.0f - p.s,
+                                     y.c * p.c};
                  upperLeft(u, m);
                }});
   b.push_back({"Scaling", kThree, [](const float* k, float* m) { m[0] = k[0], m[5] = k[1], m[10] = k[2], m[15] = 1; }});
-  b.push_back({"Translation", kThree,
-               [](const float* k, float* m) { m[0] = m[5] = m[10] = m[15] = 1, m[12] = k[0], m[13] = k[1], m[14] = k[2]; }});
+  b.push_back({"Translation", kThree, [](const float* k, float* m) {
+                 m[0] = m[5] = m[10] = m[15] = 1, m[12] = k[0], m[13] = k[1], m[14] = k[2];
+               }});
   return b;
 }
 

@@ -55,8 +55,7 @@ inline float value(std::mt19937& rng, bool specials = false) {
 // the compiler's choice).
 inline ::testing::AssertionResult sameFloats(const float* got, const float* want, int n) {
   for (int i = 0; i < n; ++i)
-    if (std::isnan(got[i]) ? !std::isnan(want[i]) : bitsOf(got[i]) != bitsOf(want[i]))
-    {
+    if (std::isnan(got[i]) ? !std::isnan(want[i]) : bitsOf(got[i]) != bitsOf(want[i])) {
       char text[96];
       std::snprintf(text, sizeof text, "element %d: %a (%08x), want %a (%08x)", i, double(got[i]), bitsOf(got[i]),
                     double(want[i]), bitsOf(want[i]));

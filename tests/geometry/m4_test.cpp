@@ -66,7 +66,7 @@ TEST(GeometryM4, PivotLimitIsAbsolute) {
   struct Row {
     float scale, last;
     tarnStatus want;
-  } const rows[] = {{1, limit, tarnStatusOk}, {1, -limit, tarnStatusOk}, {1, below, tarnStatusSingular},
+  } const rows[] = {{1, limit, tarnStatusOk},        {1, -limit, tarnStatusOk},          {1, below, tarnStatusSingular},
                     {1, -below, tarnStatusSingular}, {1e-7f, 1e-7f, tarnStatusSingular}, {1e-5f, 1e-5f, tarnStatusOk}};
   for (const Row& r : rows) {
     float m[16] = {}, d[16], det = 7.0f;
@@ -90,7 +90,8 @@ TEST(GeometryM4, IdentityExactly) {
     int at;
     float v;
     int32_t want;
-  } const rows[] = {{-1, 0, 1}, {3, -0.0f, 1}, {7, 1e-30f, 0}, {0, std::nextafter(1.0f, 2.0f), 0}, {15, NAN, 0}, {12, NAN, 0}};
+  } const rows[] = {{-1, 0, 1},   {3, -0.0f, 1}, {7, 1e-30f, 0}, {0, std::nextafter(1.0f, 2.0f), 0},
+                    {15, NAN, 0}, {12, NAN, 0}};
   for (const Row& r : rows) {
     Fixed m(16), result(1);
     std::memcpy(m.p, id, 64);

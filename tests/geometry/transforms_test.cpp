@@ -2,8 +2,8 @@
 // arrays with byte strides of either sign ending at a guarded page and canaries between the
 // points; Project and Unproject with singular products; AffineTransform3DH in every placement
 // and on 1 to 4 threads with failing points mid-batch, and its threshold.
-#include <cfloat>
 #include <algorithm>
+#include <cfloat>
 #include <functional>
 #include <sstream>
 
@@ -23,7 +23,9 @@ struct Points {
   Storage mem;
   uint8_t* base;
   Points(int floats, int32_t s, int count)
-      : n(floats), stride(s), mem(16 + size_t(std::abs(s)) * size_t(std::max(count - 1, 0)) + 4 * size_t(floats), true) {
+      : n(floats),
+        stride(s),
+        mem(16 + size_t(std::abs(s)) * size_t(std::max(count - 1, 0)) + 4 * size_t(floats), true) {
     base = mem.data() + mem.size() - 4 * n - (s > 0 ? size_t(s) * size_t(std::max(count - 1, 0)) : 0);
   }
   float* at(int k) const { return reinterpret_cast<float*>(base + std::ptrdiff_t(k) * stride); }
@@ -46,10 +48,14 @@ const Form kForms[] = {
     {"tarnAffineTransform_m4v2", 2, 4, [](const float* m, const float* v, float* d, bool) { ref::affine(m, v, d, 2); }},
     {"tarnAffineTransform_m4v3", 3, 4, [](const float* m, const float* v, float* d, bool) { ref::affine(m, v, d, 3); }},
     {"tarnAffineTransform_m4v4", 4, 4, [](const float* m, const float* v, float* d, bool) { ref::affine(m, v, d, 4); }},
-    {"tarnAffineTransformCoord_m4v2", 2, 2, [](const float* m, const float* v, float* d, bool a) { ref::coord(m, v, d, 2, a); }},
-    {"tarnAffineTransformCoord_m4v3", 3, 3, [](const float* m, const float* v, float* d, bool a) { ref::coord(m, v, d, 3, a); }},
-    {"tarnAffineTransformNormal_m4v2", 2, 2, [](const float* m, const float* v, float* d, bool) { ref::normal(m, v, d, 2); }},
-    {"tarnAffineTransformNormal_m4v3", 3, 3, [](const float* m, const float* v, float* d, bool) { ref::normal(m, v, d, 3); }},
+    {"tarnAffineTransformCoord_m4v2", 2, 2,
+     [](const float* m, const float* v, float* d, bool a) { ref::coord(m, v, d, 2, a); }},
+    {"tarnAffineTransformCoord_m4v3", 3, 3,
+     [](const float* m, const float* v, float* d, bool a) { ref::coord(m, v, d, 3, a); }},
+    {"tarnAffineTransformNormal_m4v2", 2, 2,
+     [](const float* m, const float* v, float* d, bool) { ref::normal(m, v, d, 2); }},
+    {"tarnAffineTransformNormal_m4v3", 3, 3,
+     [](const float* m, const float* v, float* d, bool) { ref::normal(m, v, d, 3); }},
 };
 const int kCounts[] = {0, -2, 1, 3, 4, 6, 13};
 
@@ -77,7 +83,8 @@ TEST(GeometryTransforms, SingleAndArrayFormsAddInTheirOwnOrders) {
           auto want = dst.bytes();
           auto wantAt = [&](int k) { return reinterpret_cast<float*>(want.data() + dst.offset(k)); };
           for (int k = 0; k < count; ++k) f.model(m.p, src.at(k), wantAt(k), true);
-          ASSERT_EQ(exported<Arr>(f.name + std::string("a_32f"))(m.p, src.at(0), ss, dst.at(0), ds, count), tarnStatusOk);
+          ASSERT_EQ(exported<Arr>(f.name + std::string("a_32f"))(m.p, src.at(0), ss, dst.at(0), ds, count),
+                    tarnStatusOk);
           EXPECT_EQ(src.bytes(), srcBefore) << f.name;
           for (int k = 0; k < count; ++k) {
             ASSERT_TRUE(sameFloats(dst.at(k), wantAt(k), f.out))
@@ -114,12 +121,16 @@ TEST(GeometryTransforms, ProjectAndUnprojectSingleAndArray) {
       for (int k = 0; k < count; ++k) fill(rng, s.at(k), 3);
       const auto before = d.bytes();
       auto call = un ? tarnUnproject_m4v3a_32f : tarnProject_m4v3a_32f;
-      ASSERT_EQ(call(proj.p, view.p, world.p, s.at(0), s.stride, vp.w, vp.h, vp.minZ, vp.maxZ, d.at(0), d.stride, count),
-                un ? st : 0);
+      ASSERT_EQ(
+          call(proj.p, view.p, world.p, s.at(0), s.stride, vp.w, vp.h, vp.minZ, vp.maxZ, d.at(0), d.stride, count),
+          un ? st : 0);
       for (int k = 0; k < count && !(un && st); ++k) {
-        if (un) ref::normalised(s.at(k), vp, want), ref::coord(inv, want, want, 3, false);
-        else ref::project(proj.p, view.p, world.p, s.at(k), vp, want);
-        ASSERT_TRUE(sameFloats(d.at(k), want, 3)) << (un ? "Unproject" : "Project") << "a trial " << trial << " point " << k;
+        if (un)
+          ref::normalised(s.at(k), vp, want), ref::coord(inv, want, want, 3, false);
+        else
+          ref::project(proj.p, view.p, world.p, s.at(k), vp, want);
+        ASSERT_TRUE(sameFloats(d.at(k), want, 3))
+            << (un ? "Unproject" : "Project") << "a trial " << trial << " point " << k;
       }
       if (un && st) EXPECT_EQ(d.bytes(), before);
     }
@@ -151,7 +162,8 @@ std::string runH3d(int count, const Style& st, int threads, bool failing, unsign
   CallFixture fx(h3d(), count, st, [](int b) { return b == 0 ? Extent{4, 4} : Extent{1, 3}; });
   std::mt19937 rng(seed);
   fx.fillSources(rng, !failing && seed % 3 == 0);
-  const float edge[] = {FLT_MIN, -FLT_MIN, std::nextafter(FLT_MIN, 1.0f), 0.0f, 1e-40f, NAN, -std::nextafter(FLT_MIN, 1.0f)};
+  const float edge[] = {FLT_MIN, -FLT_MIN, std::nextafter(FLT_MIN, 1.0f), 0.0f,
+                        1e-40f,  NAN,      -std::nextafter(FLT_MIN, 1.0f)};
   if (failing) {
     for (int c = 0; c < 4; ++c) fx.block(0).set(0, 3, c, c == 0);
     for (int k = 0; k < count; k += 5) fx.block(1).set(k, 0, 0, edge[(k / 5) % 7]);
@@ -171,7 +183,9 @@ std::string runH3d(int count, const Style& st, int threads, bool failing, unsign
   if (got != (ok ? tarnStatusOk : tarnStatusDivideByZero)) why << "status " << got << "; ";
   why << fx.untouched();
   const std::string w = why.str();
-  return w.empty() ? w : std::string(st.name) + " count " + std::to_string(count) + " threads " + std::to_string(threads) + ": " + w;
+  return w.empty() ? w
+                   : std::string(st.name) + " count " + std::to_string(count) + " threads " + std::to_string(threads) +
+                         ": " + w;
 }
 
 TEST(GeometryTransform3DH, EveryPlacementAndThreadCount) {

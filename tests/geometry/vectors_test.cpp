@@ -58,12 +58,18 @@ int cross(int n, Srcs s, const float*, float* d) {
 }
 
 const Case kCases[] = {
-    {"Add", true, two, [](int n, Srcs s, const float*, float* d) { return each(n, d, [&](int i) { return s[0][i] + s[1][i]; }); }},
-    {"Sub", true, two, [](int n, Srcs s, const float*, float* d) { return each(n, d, [&](int i) { return s[0][i] - s[1][i]; }); }},
+    {"Add", true, two,
+     [](int n, Srcs s, const float*, float* d) { return each(n, d, [&](int i) { return s[0][i] + s[1][i]; }); }},
+    {"Sub", true, two,
+     [](int n, Srcs s, const float*, float* d) { return each(n, d, [&](int i) { return s[0][i] - s[1][i]; }); }},
     {"Min", true, two,
-     [](int n, Srcs s, const float*, float* d) { return each(n, d, [&](int i) { return s[0][i] < s[1][i] ? s[0][i] : s[1][i]; }); }},
+     [](int n, Srcs s, const float*, float* d) {
+       return each(n, d, [&](int i) { return s[0][i] < s[1][i] ? s[0][i] : s[1][i]; });
+     }},
     {"Max", true, two,
-     [](int n, Srcs s, const float*, float* d) { return each(n, d, [&](int i) { return s[0][i] > s[1][i] ? s[0][i] : s[1][i]; }); }},
+     [](int n, Srcs s, const float*, float* d) {
+       return each(n, d, [&](int i) { return s[0][i] > s[1][i] ? s[0][i] : s[1][i]; });
+     }},
     {"MulC", true,
      [](const std::string& name, int, Srcs s, const float* k, float* d) {
        return exported<tarnStatus (*)(F, float, float*)>(name)(s[0], k[0], d);
@@ -73,7 +79,9 @@ const Case kCases[] = {
      [](const std::string& name, int, Srcs s, const float* k, float* d) {
        return exported<tarnStatus (*)(F, F, float, float*)>(name)(s[0], s[1], k[0], d);
      },
-     [](int n, Srcs s, const float* k, float* d) { return each(n, d, [&](int i) { return s[0][i] + (s[1][i] - s[0][i]) * k[0]; }); }},
+     [](int n, Srcs s, const float* k, float* d) {
+       return each(n, d, [&](int i) { return s[0][i] + (s[1][i] - s[0][i]) * k[0]; });
+     }},
     {"BaryCentric", true,
      [](const std::string& name, int, Srcs s, const float* k, float* d) {
        return exported<tarnStatus (*)(F, F, F, float, float, float*)>(name)(s[0], s[1], s[2], k[0], k[1], d);
@@ -81,15 +89,18 @@ const Case kCases[] = {
      [](int n, Srcs s, const float* k, float* d) {
        return each(n, d, [&](int i) { return ((s[1][i] - s[0][i]) * k[0] + s[0][i]) + (s[2][i] - s[0][i]) * k[1]; });
      }},
-    {"Hermite", true, four, [](int n, Srcs s, const float* k, float* d) { return ref::hermite(s[0], s[1], s[2], s[3], k[0], d, n), n; }},
+    {"Hermite", true, four,
+     [](int n, Srcs s, const float* k, float* d) { return ref::hermite(s[0], s[1], s[2], s[3], k[0], d, n), n; }},
     {"InterpolationCatmullRom", true, four, catmullRom},
     {"DotProduct", false, two, [](int n, Srcs s, const float*, float* d) { return *d = ref::dot(s[0], s[1], n), 1; }},
     {"LenSqr", false, one, [](int n, Srcs s, const float*, float* d) { return *d = ref::dot(s[0], s[0], n), 1; }},
-    {"Len", false, one, [](int n, Srcs s, const float*, float* d) { return *d = std::sqrt(ref::dot(s[0], s[0], n)), 1; }},
+    {"Len", false, one,
+     [](int n, Srcs s, const float*, float* d) { return *d = std::sqrt(ref::dot(s[0], s[0], n)), 1; }},
     {"Normalize", true, one,
      [](int n, Srcs s, const float*, float* d) {
        const float* v = s[0];  // the 4-vector adds x last
-       const float len = std::sqrt(n == 4 ? ((v[1] * v[1] + v[2] * v[2]) + v[3] * v[3]) + v[0] * v[0] : ref::dot(v, v, n));
+       const float len =
+           std::sqrt(n == 4 ? ((v[1] * v[1] + v[2] * v[2]) + v[3] * v[3]) + v[0] * v[0] : ref::dot(v, v, n));
        return each(n, d, [&](int i) { return v[i] / len; });
      }},
     {"CrossProduct", true,
@@ -118,9 +129,11 @@ TEST(GeometryVectors, EveryMemberAgainstItsModel) {
         float* const s[4] = {src[0].p, src[1].p, src[2].p, src[3].p};
         ASSERT_EQ(c.call(name, n, s, k, out), tarnStatusOk);
         ASSERT_TRUE(sameFloats(out, want, outLen)) << name << (alias ? " dst over src1" : "") << " trial " << trial;
-        for (int i = alias ? 1 : 0; i < 4; ++i) ASSERT_EQ(std::memcmp(src[i].p, in[i], sizeof(float) * size_t(n)), 0) << name;
+        for (int i = alias ? 1 : 0; i < 4; ++i)
+          ASSERT_EQ(std::memcmp(src[i].p, in[i], sizeof(float) * size_t(n)), 0) << name;
       }
-      for (const Fixed* f : {&src[0], &src[1], &src[2], &src[3], &dst, &scalar}) EXPECT_TRUE(f->leadIntact()) << c.family << n;
+      for (const Fixed* f : {&src[0], &src[1], &src[2], &src[3], &dst, &scalar})
+        EXPECT_TRUE(f->leadIntact()) << c.family << n;
     }
   }
 }
@@ -130,8 +143,11 @@ TEST(GeometryVectors, MinMaxTakeSrc2OnNaNAndZeros) {
   const struct {
     const char* name;
     float a, b, want;
-  } rows[] = {{"tarnMax_v2_32f", 0.0f, -0.0f, -0.0f}, {"tarnMin_v3_32f", -0.0f, 0.0f, 0.0f}, {"tarnMin_v4_32f", NAN, 1.0f, 1.0f},
-              {"tarnMax_v3_32f", 1.0f, NAN, NAN},     {"tarnMax_v4_32f", NAN, -2.0f, -2.0f}};
+  } rows[] = {{"tarnMax_v2_32f", 0.0f, -0.0f, -0.0f},
+              {"tarnMin_v3_32f", -0.0f, 0.0f, 0.0f},
+              {"tarnMin_v4_32f", NAN, 1.0f, 1.0f},
+              {"tarnMax_v3_32f", 1.0f, NAN, NAN},
+              {"tarnMax_v4_32f", NAN, -2.0f, -2.0f}};
   for (const auto& r : rows) {
     const float a[4] = {r.a, r.a, r.a, r.a}, b[4] = {r.b, r.b, r.b, r.b};
     float d[4];

@@ -16,7 +16,8 @@ inline float dot(const float* a, const float* b, int n) {
 }
 inline void hermite(const float* p1, const float* t1, const float* p2, const float* t2, float s, float* d, int n) {
   const float s2 = s * s, s3 = s2 * s;
-  const float h1 = float(((double(s) - s2) - s2) + s3), h2 = float((double(s3) - 3.0 * s2) + s3), h3 = float(double(s3) - s2);
+  const float h1 = float(((double(s) - s2) - s2) + s3), h2 = float((double(s3) - 3.0 * s2) + s3),
+              h3 = float(double(s3) - s2);
   for (int i = 0; i < n; ++i) {
     const float lead = (p1[i] - p2[i]) * h2, tail = (p1[i] + t1[i] * h1) + t2[i] * h3;
     d[i] = lead + tail;
@@ -72,8 +73,10 @@ inline int invert(const float* src, float* det, float* dst) {
 // Element i of x*m[0] + ... by AffineTransform's sums (n = 2, 3, 4).
 inline void affine(const float* m, const float* v, float* d, int n) {
   for (int i = 0; i < 4; ++i) {
-    if (n == 4) d[i] = ((v[0] * m[i] + v[1] * m[4 + i]) + v[2] * m[8 + i]) + v[3] * m[12 + i];
-    else d[i] = (v[0] * m[i] + m[12 + i]) + v[1] * m[4 + i];
+    if (n == 4)
+      d[i] = ((v[0] * m[i] + v[1] * m[4 + i]) + v[2] * m[8 + i]) + v[3] * m[12 + i];
+    else
+      d[i] = (v[0] * m[i] + m[12 + i]) + v[1] * m[4 + i];
     if (n == 3) d[i] = d[i] + v[2] * m[8 + i];
   }
 }
@@ -82,15 +85,19 @@ inline void coord(const float* m, const float* v, float* d, int n, bool array) {
   const float x = v[0], y = v[1], z = n == 3 ? v[2] : 0.0f;
   for (int i = 0; i < 4; ++i) {
     const float mx = m[i] * x, my = m[4 + i] * y, mz = m[8 + i] * z, mt = m[12 + i];
-    if (!array) t[i] = n == 2 ? (mx + mt) + my : (mt + mz) + (mx + my);
-    else if (i == 0 || i == 3) t[i] = n == 2 ? (my + mt) + mx : ((my + mt) + mz) + mx;
-    else t[i] = n == 2 ? (mx + mt) + my : ((mx + mt) + my) + mz;
+    if (!array)
+      t[i] = n == 2 ? (mx + mt) + my : (mt + mz) + (mx + my);
+    else if (i == 0 || i == 3)
+      t[i] = n == 2 ? (my + mt) + mx : ((my + mt) + mz) + mx;
+    else
+      t[i] = n == 2 ? (mx + mt) + my : ((mx + mt) + my) + mz;
   }
   for (int i = 0; i < n; ++i) d[i] = t[i] / t[3];
 }
 inline void normal(const float* m, const float* v, float* d, int n) {
   float t[3];
-  for (int i = 0; i < n; ++i) t[i] = n == 2 ? m[i] * v[0] + m[4 + i] * v[1] : (m[i] * v[0] + m[4 + i] * v[1]) + m[8 + i] * v[2];
+  for (int i = 0; i < n; ++i)
+    t[i] = n == 2 ? m[i] * v[0] + m[4 + i] * v[1] : (m[i] * v[0] + m[4 + i] * v[1]) + m[8 + i] * v[2];
   std::memcpy(d, t, sizeof(float) * size_t(n));
 }
 struct Viewport {
@@ -123,7 +130,8 @@ inline bool h3d(const float* m, const float* v, float* d, bool contiguous) {
   float t[4];
   for (int r = 0; r < 4; ++r) {
     const float* q = m + 4 * r;
-    t[r] = contiguous ? (v[0] * q[0] + v[1] * q[1]) + (v[2] * q[2] + q[3]) : ((v[0] * q[0] + q[3]) + v[1] * q[1]) + v[2] * q[2];
+    t[r] = contiguous ? (v[0] * q[0] + v[1] * q[1]) + (v[2] * q[2] + q[3])
+                      : ((v[0] * q[0] + q[3]) + v[1] * q[1]) + v[2] * q[2];
   }
   const bool ok = std::fabs(t[3]) > 1.1754944e-38f;
   const float inv = 1.0f / t[3];
