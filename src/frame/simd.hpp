@@ -192,6 +192,10 @@ inline __m128 div(__m128 a, __m128 b) { return _mm_div_ps(a, b); }
 inline __m128 minLanes(__m128 a, __m128 b) { return _mm_min_ps(a, b); }
 inline __m128 maxLanes(__m128 a, __m128 b) { return _mm_max_ps(a, b); }
 inline float first(__m128 v) { return _mm_cvtss_f32(v); }
+// Lanes 2 and 3 of v in lanes 0 and 1.
+inline __m128 upperHalf(__m128 v) { return _mm_movehl_ps(v, v); }
+// The correctly rounded square root of lane 0 in lane 0.
+inline __m128 sqrtFirst(__m128 v) { return _mm_sqrt_ss(v); }
 // The correctly rounded square root of one float.
 inline float sqrtScalar(float x) { return _mm_cvtss_f32(_mm_sqrt_ss(_mm_set_ss(x))); }
 

@@ -70,16 +70,17 @@ tarnStatus len(const float* a, float* d) {
 }
 
 // Each element divided by the length, one division per element (0/0 = NaN for a zero vector).
-// The 4-vector sums its squares from y on and adds x last.
+// The squares are summed in lane 0 from x on, except in the 4-vector, which sums from y on and
+// adds x last.
 template <int N>
 tarnStatus normalize(const float* a, float* d) {
-  const __m128 v = loadVec<N>(a);
-  float sq;
-  if constexpr (N == 4)
-    sq = ((a[1] * a[1] + a[2] * a[2]) + a[3] * a[3]) + a[0] * a[0];
-  else
-    sq = dotOf<N>(a, a);
-  storeVec<N>(d, simd::div(v, simd::broadcast(simd::sqrtScalar(sq))));
+  using simd::add, simd::splat;
+  const __m128 v = loadVec<N>(a), t = simd::mul(v, v);
+  __m128 sq;
+  if constexpr (N == 2) sq = add(t, splat<1>(t));
+  else if constexpr (N == 3) sq = add(add(t, splat<1>(t)), simd::upperHalf(t));
+  else sq = add(add(add(splat<1>(t), simd::upperHalf(t)), splat<3>(t)), t);
+  storeVec<N>(d, simd::div(v, splat<0>(simd::sqrtFirst(sq))));
   return tarnStatusOk;
 }
 
