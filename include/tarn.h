@@ -98,6 +98,9 @@ tarnStatus tarnAdd_tt_32f(const float* src1, int32_t src1RowStride, int32_t src1
 tarnStatus tarnAdd_tt_32f_P(const float* const* src1, int32_t src1RoiShift, const float* const* src2, int32_t src2RoiShift, float* const* dst, int32_t dstRoiShift, int32_t width, int32_t height);
 tarnStatus tarnAdd_tt_64f(const double* src1, int32_t src1RowStride, int32_t src1ElemStride, const double* src2, int32_t src2RowStride, int32_t src2ElemStride, double* dst, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height);
 tarnStatus tarnAdd_tt_64f_P(const double* const* src1, int32_t src1RoiShift, const double* const* src2, int32_t src2RoiShift, double* const* dst, int32_t dstRoiShift, int32_t width, int32_t height);
+tarnStatus tarnAdd_v2_32f(const float* src1, const float* src2, float* dst);
+tarnStatus tarnAdd_v3_32f(const float* src1, const float* src2, float* dst);
+tarnStatus tarnAdd_v4_32f(const float* src1, const float* src2, float* dst);
 tarnStatus tarnAdd_vac_32f(const float* src, int32_t srcObjStride, int32_t srcElemStride, float val, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
 tarnStatus tarnAdd_vac_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcElemStride, float val, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t len, int32_t count);
 tarnStatus tarnAdd_vac_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float val, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t len, int32_t count);
@@ -137,6 +140,34 @@ tarnStatus tarnAdd_vv_32f_P(const float* const* src1, int32_t src1RoiShift, cons
 tarnStatus tarnAdd_vv_64f(const double* src1, int32_t src1ElemStride, const double* src2, int32_t src2ElemStride, double* dst, int32_t dstElemStride, int32_t len);
 tarnStatus tarnAdd_vv_64f_P(const double* const* src1, int32_t src1RoiShift, const double* const* src2, int32_t src2RoiShift, double* const* dst, int32_t dstRoiShift, int32_t len);
 
+/** 3D points as columns through a strided 4x4 matrix, divided by w'; a point with |w'| not above the smallest normal float gets the largest float and the status DivideByZero, and the walk goes on. */
+tarnStatus tarnAffineTransform3DH_mva_32f(const float* src1, int32_t src1RowStride, int32_t src1ElemStride, const float* src2, int32_t src2ObjStride, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t count);
+
+/** Points through a 4x4 float matrix, divided by the fourth coordinate, which is not tested. */
+tarnStatus tarnAffineTransformCoord_m4v2_32f(const float* matrix, const float* src, float* dst);
+tarnStatus tarnAffineTransformCoord_m4v2a_32f(const float* matrix, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count);
+tarnStatus tarnAffineTransformCoord_m4v3_32f(const float* matrix, const float* src, float* dst);
+tarnStatus tarnAffineTransformCoord_m4v3a_32f(const float* matrix, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count);
+
+/** Directions through the upper rows of a 4x4 float matrix, without translation. */
+tarnStatus tarnAffineTransformNormal_m4v2_32f(const float* matrix, const float* src, float* dst);
+tarnStatus tarnAffineTransformNormal_m4v2a_32f(const float* matrix, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count);
+tarnStatus tarnAffineTransformNormal_m4v3_32f(const float* matrix, const float* src, float* dst);
+tarnStatus tarnAffineTransformNormal_m4v3a_32f(const float* matrix, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count);
+
+/** Points through a 4x4 float matrix as row vectors (16 floats in row order), an implied w of 1 for 2- and 3-vectors; four floats out per point. */
+tarnStatus tarnAffineTransform_m4v2_32f(const float* matrix, const float* src, float* dst);
+tarnStatus tarnAffineTransform_m4v2a_32f(const float* matrix, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count);
+tarnStatus tarnAffineTransform_m4v3_32f(const float* matrix, const float* src, float* dst);
+tarnStatus tarnAffineTransform_m4v3a_32f(const float* matrix, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count);
+tarnStatus tarnAffineTransform_m4v4_32f(const float* matrix, const float* src, float* dst);
+tarnStatus tarnAffineTransform_m4v4a_32f(const float* matrix, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count);
+
+/** ((src2 - src1)*f + src1) + (src3 - src1)*g per element. */
+tarnStatus tarnBaryCentric_v2_32f(const float* src1, const float* src2, const float* src3, float f, float g, float* dst);
+tarnStatus tarnBaryCentric_v3_32f(const float* src1, const float* src2, const float* src3, float f, float g, float* dst);
+tarnStatus tarnBaryCentric_v4_32f(const float* src1, const float* src2, const float* src3, float f, float g, float* dst);
+
 /** Copies an array of matrices or vectors from one layout to another, element by element as raw bits. */
 tarnStatus tarnCopy_ma_32f_LL(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
 tarnStatus tarnCopy_ma_32f_LP(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
@@ -175,7 +206,10 @@ tarnStatus tarnCopy_va_64f_SL(const double* src, int32_t srcObjStride, int32_t s
 tarnStatus tarnCopy_va_64f_SP(const double* src, int32_t srcObjStride, int32_t srcElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t len, int32_t count);
 tarnStatus tarnCopy_va_64f_SS(const double* src, int32_t srcObjStride, int32_t srcElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
 
-/** dst = src1 x src2 of 3-element vectors: each product rounded, then the difference; an object is read whole before it is written. */
+/** dst = src1 x src2 of 3-element vectors: each product rounded, then the difference; an object is read whole before it is written. Fixed forms: x1*y2 - y1*x2 of 2-vectors, the vector product of 3-vectors, the vector orthogonal to three 4-vectors. */
+tarnStatus tarnCrossProduct_v2_32f(const float* src1, const float* src2, float* dst);
+tarnStatus tarnCrossProduct_v3_32f(const float* src1, const float* src2, float* dst);
+tarnStatus tarnCrossProduct_v4_32f(const float* src1, const float* src2, const float* src3, float* dst);
 tarnStatus tarnCrossProduct_vav_32f(const float* src1, int32_t src1ObjStride, int32_t src1ElemStride, const float* src2, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t count);
 tarnStatus tarnCrossProduct_vav_32f_L(const float* const* src1, int32_t src1RoiShift, int32_t src1ElemStride, const float* src2, int32_t src2ElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t count);
 tarnStatus tarnCrossProduct_vav_32f_P(const float* const* src1, int32_t src1RoiShift, int32_t src1ObjStride, const float* const* src2, int32_t src2RoiShift, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t count);
@@ -200,6 +234,7 @@ tarnStatus tarnCrossProduct_vva_64f_L(const double* src1, int32_t src1ElemStride
 tarnStatus tarnCrossProduct_vva_64f_P(const double* const* src1, int32_t src1RoiShift, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t count);
 
 /** Determinant of each square matrix; a matrix found singular gives 0, never a failure; buffer holds widthHeight*(widthHeight+1) elements. */
+tarnStatus tarnDet_m4_32f(const float* src, float* dst);
 tarnStatus tarnDet_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, float* buffer, float* dst);
 tarnStatus tarnDet_m_32f_P(const float* const* src, int32_t srcRoiShift, int32_t widthHeight, float* buffer, float* dst);
 tarnStatus tarnDet_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, double* buffer, double* dst);
@@ -211,7 +246,10 @@ tarnStatus tarnDet_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRo
 tarnStatus tarnDet_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, double* buffer, double* dst, int32_t count);
 tarnStatus tarnDet_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, int32_t widthHeight, double* buffer, double* dst, int32_t count);
 
-/** dst = sum of src1[k]*src2[k] per pair of vectors, one result element per object; the order of the additions depends on the length, the path and, for long contiguous vectors, the address of src2. */
+/** dst = sum of src1[k]*src2[k] per pair of vectors, one result element per object; the order of the additions depends on the length, the path and, for long contiguous vectors, the address of src2. The fixed 2-, 3- and 4-vector forms sum left to right from the first element. */
+tarnStatus tarnDotProduct_v2_32f(const float* src1, const float* src2, float* dst);
+tarnStatus tarnDotProduct_v3_32f(const float* src1, const float* src2, float* dst);
+tarnStatus tarnDotProduct_v4_32f(const float* src1, const float* src2, float* dst);
 tarnStatus tarnDotProduct_vav_32f(const float* src1, int32_t src1ObjStride, int32_t src1ElemStride, const float* src2, int32_t src2ElemStride, float* dst, int32_t len, int32_t count);
 tarnStatus tarnDotProduct_vav_32f_L(const float* const* src1, int32_t src1RoiShift, int32_t src1ElemStride, const float* src2, int32_t src2ElemStride, float* dst, int32_t len, int32_t count);
 tarnStatus tarnDotProduct_vav_32f_P(const float* const* src1, int32_t src1RoiShift, int32_t src1ObjStride, const float* const* src2, int32_t src2RoiShift, float* dst, int32_t len, int32_t count);
@@ -276,7 +314,26 @@ tarnStatus tarnFrobNorm_ma_64f_P(const double* const* src, int32_t srcRoiShift, 
 /** Returns the constant version record of the library. */
 const tarnLibraryVersion* tarnGetLibVersion(void);
 
+/** The cubic Hermite curve through src1 and src3 with tangents src2 and src4 at s, its basis formed in double. */
+tarnStatus tarnHermite_v2_32f(const float* src1, const float* src2, const float* src3, const float* src4, float s, float* dst);
+tarnStatus tarnHermite_v3_32f(const float* src1, const float* src2, const float* src3, const float* src4, float s, float* dst);
+tarnStatus tarnHermite_v4_32f(const float* src1, const float* src2, const float* src3, const float* src4, float s, float* dst);
+
+/** Writes the 4x4 identity. */
+tarnStatus tarnIdentity_m4_32f(float* dst);
+
+/** The Catmull-Rom spline between src2 and src3 at s: Hermite with the half differences of the neighbours as tangents. */
+tarnStatus tarnInterpolationCatmullRom_v2_32f(const float* src1, const float* src2, const float* src3, const float* src4, float s, float* dst);
+tarnStatus tarnInterpolationCatmullRom_v3_32f(const float* src1, const float* src2, const float* src3, const float* src4, float s, float* dst);
+tarnStatus tarnInterpolationCatmullRom_v4_32f(const float* src1, const float* src2, const float* src3, const float* src4, float s, float* dst);
+
+/** src1 + (src2 - src1)*s per element. */
+tarnStatus tarnInterpolationLinear_v2_32f(const float* src1, const float* src2, float s, float* dst);
+tarnStatus tarnInterpolationLinear_v3_32f(const float* src1, const float* src2, float s, float* dst);
+tarnStatus tarnInterpolationLinear_v4_32f(const float* src1, const float* src2, float s, float* dst);
+
 /** Inverse of each square matrix, or tarnStatusSingular; buffer holds widthHeight*(widthHeight+1) elements. */
+tarnStatus tarnInvert_m4_32f(const float* src, float* det, float* dst);
 tarnStatus tarnInvert_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, float* buffer, float* dst, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight);
 tarnStatus tarnInvert_m_32f_P(const float* const* src, int32_t srcRoiShift, float* buffer, float* const* dst, int32_t dstRoiShift, int32_t widthHeight);
 tarnStatus tarnInvert_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* dst, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight);
@@ -287,6 +344,9 @@ tarnStatus tarnInvert_ma_32f_P(const float* const* src, int32_t srcRoiShift, int
 tarnStatus tarnInvert_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight, int32_t count);
 tarnStatus tarnInvert_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t widthHeight, int32_t count);
 tarnStatus tarnInvert_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t widthHeight, int32_t count);
+
+/** Stores 1 if the 4x4 matrix equals the identity exactly (-0.0 counts as zero, NaN never equals), else 0. */
+tarnStatus tarnIsIdentity_m4_32f(const float* src, int32_t* result);
 
 /** dst = the square root of the sum of squares of each vector, without scaling: overflow gives infinity. */
 tarnStatus tarnL2Norm_v_32f(const float* src, int32_t srcElemStride, float* dst, int32_t len);
@@ -318,6 +378,16 @@ tarnStatus tarnLComb_vv_32f_P(const float* const* src1, int32_t src1RoiShift, fl
 tarnStatus tarnLComb_vv_64f(const double* src1, int32_t src1ElemStride, double val1, const double* src2, int32_t src2ElemStride, double val2, double* dst, int32_t dstElemStride, int32_t len);
 tarnStatus tarnLComb_vv_64f_P(const double* const* src1, int32_t src1RoiShift, double val1, const double* const* src2, int32_t src2RoiShift, double val2, double* const* dst, int32_t dstRoiShift, int32_t len);
 
+/** Sum of the squared elements, left to right. */
+tarnStatus tarnLenSqr_v2_32f(const float* src, float* dst);
+tarnStatus tarnLenSqr_v3_32f(const float* src, float* dst);
+tarnStatus tarnLenSqr_v4_32f(const float* src, float* dst);
+
+/** Euclidean length of the vector, by the correctly rounded square root. */
+tarnStatus tarnLen_v2_32f(const float* src, float* dst);
+tarnStatus tarnLen_v3_32f(const float* src, float* dst);
+tarnStatus tarnLen_v4_32f(const float* src, float* dst);
+
 /** Fills every matrix of the array with ones on the main diagonal and zeros elsewhere. */
 tarnStatus tarnLoadIdentity_ma_32f(float* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
 tarnStatus tarnLoadIdentity_ma_32f_L(float* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
@@ -325,6 +395,30 @@ tarnStatus tarnLoadIdentity_ma_32f_P(float* const* dst, int32_t dstRoiShift, int
 tarnStatus tarnLoadIdentity_ma_64f(double* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
 tarnStatus tarnLoadIdentity_ma_64f_L(double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
 tarnStatus tarnLoadIdentity_ma_64f_P(double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+
+/** Left-handed view matrix of a camera at eye looking at `at`, with up as the upward hint. */
+tarnStatus tarnLookAtLH_m4_32f(const float* eye, const float* at, const float* up, float* dst);
+
+/** Right-handed view matrix of a camera at eye looking at `at`, with up as the upward hint. */
+tarnStatus tarnLookAtRH_m4_32f(const float* eye, const float* at, const float* up, float* dst);
+
+/** Element-wise maximum a > b ? a : b: src2's element on NaN or equal zeros. */
+tarnStatus tarnMax_v2_32f(const float* src1, const float* src2, float* dst);
+tarnStatus tarnMax_v3_32f(const float* src1, const float* src2, float* dst);
+tarnStatus tarnMax_v4_32f(const float* src1, const float* src2, float* dst);
+
+/** Element-wise minimum a < b ? a : b: src2's element on NaN or equal zeros. */
+tarnStatus tarnMin_v2_32f(const float* src1, const float* src2, float* dst);
+tarnStatus tarnMin_v3_32f(const float* src1, const float* src2, float* dst);
+tarnStatus tarnMin_v4_32f(const float* src1, const float* src2, float* dst);
+
+/** The vector times the constant c, element by element. */
+tarnStatus tarnMulC_v2_32f(const float* src, float c, float* dst);
+tarnStatus tarnMulC_v3_32f(const float* src, float c, float* dst);
+tarnStatus tarnMulC_v4_32f(const float* src, float c, float* dst);
+
+/** dst = transpose of (src1 * src2) for 4x4 floats; dst must not overlap a source. */
+tarnStatus tarnMulTranspose_m4_32f(const float* src1, const float* src2, float* dst);
 
 /** Products: dst = op(src1) * op(src2) of matrices and vectors, each matrix read as stored (m) or transposed (t), its sizes describing it as stored; or an operand times a constant. */
 tarnStatus tarnMul_mam_32f(const float* src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride, int32_t src1Width, int32_t src1Height, const float* src2, int32_t src2RowStride, int32_t src2ElemStride, int32_t src2Width, int32_t src2Height, float* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t count);
@@ -417,6 +511,45 @@ tarnStatus tarnMul_tta_64f(const double* src1, int32_t src1RowStride, int32_t sr
 tarnStatus tarnMul_tta_64f_L(const double* src1, int32_t src1RowStride, int32_t src1ElemStride, int32_t src1Width, int32_t src1Height, const double* const* src2, int32_t src2RoiShift, int32_t src2RowStride, int32_t src2ElemStride, int32_t src2Width, int32_t src2Height, double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t count);
 tarnStatus tarnMul_tta_64f_P(const double* const* src1, int32_t src1RoiShift, int32_t src1Width, int32_t src1Height, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, int32_t src2Width, int32_t src2Height, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t count);
 
+/** The vector divided element by element by its length; a zero vector gives NaN. */
+tarnStatus tarnNormalize_v2_32f(const float* src, float* dst);
+tarnStatus tarnNormalize_v3_32f(const float* src, float* dst);
+tarnStatus tarnNormalize_v4_32f(const float* src, float* dst);
+
+/** Left-handed orthographic projection of a view volume of the given width and height, depth from zNear to zFar onto 0 to 1. */
+tarnStatus tarnOrthoLH_m4_32f(float viewWidth, float viewHeight, float zNear, float zFar, float* dst);
+
+/** Left-handed orthographic projection of the box left..right, bottom..top, zNear..zFar. */
+tarnStatus tarnOrthoOffCenterLH_m4_32f(float left, float right, float bottom, float top, float zNear, float zFar, float* dst);
+
+/** Right-handed orthographic projection of the box left..right, bottom..top, zNear..zFar. */
+tarnStatus tarnOrthoOffCenterRH_m4_32f(float left, float right, float bottom, float top, float zNear, float zFar, float* dst);
+
+/** Right-handed orthographic projection of a view volume of the given width and height, depth from zNear to zFar onto 0 to 1. */
+tarnStatus tarnOrthoRH_m4_32f(float viewWidth, float viewHeight, float zNear, float zFar, float* dst);
+
+/** Left-handed perspective projection from a vertical field of view in radians and an aspect ratio. */
+tarnStatus tarnPerspectiveFovLH_m4_32f(float fovY, float aspect, float zNear, float zFar, float* dst);
+
+/** Right-handed perspective projection from a vertical field of view in radians and an aspect ratio. */
+tarnStatus tarnPerspectiveFovRH_m4_32f(float fovY, float aspect, float zNear, float zFar, float* dst);
+
+/** Left-handed perspective projection with a near plane of the given width and height. */
+tarnStatus tarnPerspectiveLH_m4_32f(float viewWidth, float viewHeight, float zNear, float zFar, float* dst);
+
+/** Left-handed perspective projection of the near rectangle left..right, bottom..top. */
+tarnStatus tarnPerspectiveOffCenterLH_m4_32f(float left, float right, float bottom, float top, float zNear, float zFar, float* dst);
+
+/** Right-handed perspective projection of the near rectangle left..right, bottom..top. */
+tarnStatus tarnPerspectiveOffCenterRH_m4_32f(float left, float right, float bottom, float top, float zNear, float zFar, float* dst);
+
+/** Right-handed perspective projection with a near plane of the given width and height. */
+tarnStatus tarnPerspectiveRH_m4_32f(float viewWidth, float viewHeight, float zNear, float zFar, float* dst);
+
+/** Points through world, view and projection to viewport coordinates. */
+tarnStatus tarnProject_m4v3_32f(const float* projection, const float* view, const float* world, const float* src, float viewportWidth, float viewportHeight, float minZ, float maxZ, float* dst);
+tarnStatus tarnProject_m4v3a_32f(const float* projection, const float* view, const float* world, const float* src, int32_t srcStride, float viewportWidth, float viewportHeight, float minZ, float maxZ, float* dst, int32_t dstStride, int32_t count);
+
 /** Solves R x = Q^T b (least squares for a tall matrix) from what QRDecomp stored; buffer holds height elements. */
 tarnStatus tarnQRBackSubst_mava_32f(const float* src1, int32_t src1ObjStride, int32_t src1RowStride, int32_t src1ElemStride, float* buffer, const float* src2, int32_t src2ObjStride, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
 tarnStatus tarnQRBackSubst_mava_32f_L(const float* const* src1, int32_t src1RoiShift, int32_t src1RowStride, int32_t src1ElemStride, float* buffer, const float* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
@@ -447,6 +580,21 @@ tarnStatus tarnQRDecomp_ma_64f(const double* src, int32_t srcObjStride, int32_t 
 tarnStatus tarnQRDecomp_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
 tarnStatus tarnQRDecomp_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* buffer, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
 
+/** Rotation by angle radians about an axis of any nonzero length. */
+tarnStatus tarnRotationAxis_v3m4_32f(const float* axis, float angle, float* dst);
+
+/** Rotation by angle radians about the x axis. */
+tarnStatus tarnRotationX_m4_32f(float angle, float* dst);
+
+/** Rotation by angle radians about the y axis. */
+tarnStatus tarnRotationY_m4_32f(float angle, float* dst);
+
+/** Rotation by roll about z, then pitch about x, then yaw about y, in radians. */
+tarnStatus tarnRotationYawPitchRoll_m4_32f(float yaw, float pitch, float roll, float* dst);
+
+/** Rotation by angle radians about the z axis: (1, 0, 0) goes to (cos, sin, 0). */
+tarnStatus tarnRotationZ_m4_32f(float angle, float* dst);
+
 /** dst = src1*val + src2 per element: the product and the sum each rounded, never fused. */
 tarnStatus tarnSaxpy_vav_32f(const float* src1, int32_t src1ObjStride, int32_t src1ElemStride, float val, const float* src2, int32_t src2ElemStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
 tarnStatus tarnSaxpy_vav_32f_L(const float* const* src1, int32_t src1RoiShift, int32_t src1ElemStride, float val, const float* src2, int32_t src2ElemStride, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t len, int32_t count);
@@ -470,6 +618,9 @@ tarnStatus tarnSaxpy_vva_32f_P(const float* const* src1, int32_t src1RoiShift, f
 tarnStatus tarnSaxpy_vva_64f(const double* src1, int32_t src1ElemStride, double val, const double* src2, int32_t src2ObjStride, int32_t src2ElemStride, double* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
 tarnStatus tarnSaxpy_vva_64f_L(const double* src1, int32_t src1ElemStride, double val, const double* const* src2, int32_t src2RoiShift, int32_t src2ElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t len, int32_t count);
 tarnStatus tarnSaxpy_vva_64f_P(const double* const* src1, int32_t src1RoiShift, double val, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t len, int32_t count);
+
+/** Scaling by sx, sy, sz. */
+tarnStatus tarnScaling_m4_32f(float sx, float sy, float sz, float* dst);
 
 /** Element-wise difference, the operand named first minus the other, one rounded subtraction per element. */
 tarnStatus tarnSub_cav_32f(const float* src, int32_t srcElemStride, const float* val, int32_t valObjStride, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
@@ -582,6 +733,9 @@ tarnStatus tarnSub_tta_32f_P(const float* const* src1, int32_t src1RoiShift, con
 tarnStatus tarnSub_tta_64f(const double* src1, int32_t src1RowStride, int32_t src1ElemStride, const double* src2, int32_t src2ObjStride, int32_t src2RowStride, int32_t src2ElemStride, double* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
 tarnStatus tarnSub_tta_64f_L(const double* src1, int32_t src1RowStride, int32_t src1ElemStride, const double* const* src2, int32_t src2RoiShift, int32_t src2RowStride, int32_t src2ElemStride, double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t width, int32_t height, int32_t count);
 tarnStatus tarnSub_tta_64f_P(const double* const* src1, int32_t src1RoiShift, const double* const* src2, int32_t src2RoiShift, int32_t src2ObjStride, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t width, int32_t height, int32_t count);
+tarnStatus tarnSub_v2_32f(const float* src1, const float* src2, float* dst);
+tarnStatus tarnSub_v3_32f(const float* src1, const float* src2, float* dst);
+tarnStatus tarnSub_v4_32f(const float* src1, const float* src2, float* dst);
 tarnStatus tarnSub_vac_32f(const float* src, int32_t srcObjStride, int32_t srcElemStride, float val, float* dst, int32_t dstObjStride, int32_t dstElemStride, int32_t len, int32_t count);
 tarnStatus tarnSub_vac_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcElemStride, float val, float* const* dst, int32_t dstRoiShift, int32_t dstElemStride, int32_t len, int32_t count);
 tarnStatus tarnSub_vac_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float val, float* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t len, int32_t count);
@@ -639,7 +793,11 @@ tarnStatus tarnTrace_ma_64f(const double* src, int32_t srcObjStride, int32_t src
 tarnStatus tarnTrace_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, int32_t widthHeight, double* dst, int32_t count);
 tarnStatus tarnTrace_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, int32_t widthHeight, double* dst, int32_t count);
 
+/** Translation by tx, ty, tz in the fourth row. */
+tarnStatus tarnTranslation_m4_32f(float tx, float ty, float tz, float* dst);
+
 /** Writes the transpose of each matrix: dst has width rows and height columns. */
+tarnStatus tarnTranspose_m4_32f(const float* src, float* dst);
 tarnStatus tarnTranspose_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, float* dst, int32_t dstRowStride, int32_t dstElemStride);
 tarnStatus tarnTranspose_m_32f_P(const float* const* src, int32_t srcRoiShift, int32_t width, int32_t height, float* const* dst, int32_t dstRoiShift);
 tarnStatus tarnTranspose_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, double* dst, int32_t dstRowStride, int32_t dstElemStride);
@@ -650,6 +808,10 @@ tarnStatus tarnTranspose_ma_32f_P(const float* const* src, int32_t srcRoiShift, 
 tarnStatus tarnTranspose_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, double* dst, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, int32_t count);
 tarnStatus tarnTranspose_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, int32_t width, int32_t height, double* const* dst, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, int32_t count);
 tarnStatus tarnTranspose_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, int32_t width, int32_t height, double* const* dst, int32_t dstRoiShift, int32_t dstObjStride, int32_t count);
+
+/** Viewport coordinates back through the inverse of (world * view) * projection; Singular when that product cannot be inverted. */
+tarnStatus tarnUnproject_m4v3_32f(const float* projection, const float* view, const float* world, const float* src, float viewportWidth, float viewportHeight, float minZ, float maxZ, float* dst);
+tarnStatus tarnUnproject_m4v3a_32f(const float* projection, const float* view, const float* world, const float* src, int32_t srcStride, float viewportWidth, float viewportHeight, float minZ, float maxZ, float* dst, int32_t dstStride, int32_t count);
 
 #ifdef __cplusplus
 }

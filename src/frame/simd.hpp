@@ -7,6 +7,7 @@
 
 #include <pmmintrin.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <type_traits>
 #include <utility>
@@ -280,5 +281,87 @@ inline __m128d selectPositive(__m128d than, __m128d a, __m128d b) {
 
 inline __m128 rcp(__m128 a) { return _mm_rcp_ps(a); }
 inline float rcp(float a) { return _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(a))); }
+
+}  // namespace tarn::simd
+
+// ---- Geometry --------------------------------------------------------------------------------
+// Fixed vectors of 2, 3 or 4 floats in the low lanes of a register, loaded and stored with
+// exactly their own bytes (a 3-vector as one 8-byte and one 4-byte access), and the few lane
+// operations the geometry kernels add to the ones above. Every lane operation is the scalar
+// operation of that lane, rounded alike.
+namespace tarn::simd {
+
+template <int N>
+inline __m128 loadVec(const float* p) {
+  if constexpr (N == 4) return _mm_loadu_ps(p);
+  else if constexpr (N == 3) return _mm_movelh_ps(load<2, false>(p), _mm_load_ss(p + 2));
+  else return load<2, false>(p);
+}
+template <int N>
+inline void storeVec(float* p, __m128 v) {
+  if constexpr (N == 4) _mm_storeu_ps(p, v);
+  else {
+    store<2, false>(p, v);
+    if constexpr (N == 3) _mm_store_ss(p + 2, _mm_movehl_ps(v, v));
+  }
+}
+
+// a < b ? a : b and a > b ? a : b per lane: b on NaN or equal zeros.
+inline __m128 minLanes(__m128 a, __m128 b) { return _mm_min_ps(a, b); }
+inline __m128 maxLanes(__m128 a, __m128 b) { return _mm_max_ps(a, b); }
+inline float first(__m128 v) { return _mm_cvtss_f32(v); }
+// Lanes 2 and 3 of v in lanes 0 and 1.
+inline __m128 upperHalf(__m128 v) { return _mm_movehl_ps(v, v); }
+// The correctly rounded square root of lane 0 in lane 0.
+inline __m128 sqrtFirst(__m128 v) { return _mm_sqrt_ss(v); }
+// The correctly rounded square root of one float.
+inline float sqrtScalar(float x) { return _mm_cvtss_f32(_mm_sqrt_ss(_mm_set_ss(x))); }
+
+// Lanes (a[I], a[J], b[K], b[L]).
+template <int I, int J, int K, int L>
+inline __m128 pick(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(L, K, J, I)); }
+
+inline __m128 absLanes(__m128 v) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), v); }
+// Lanes where a > b, all ones; false where either is NaN.
+inline __m128 greater(__m128 a, __m128 b) { return _mm_cmpgt_ps(a, b); }
+// Lanes where |v| > limit.
+inline __m128 absAbove(__m128 v, __m128 limit) { return greater(absLanes(v), limit); }
+inline __m128 select(__m128 mask, __m128 yes, __m128 no) { return _mm_or_ps(_mm_and_ps(mask, yes), _mm_andnot_ps(mask, no)); }
+inline int signs(__m128 mask) { return _mm_movemask_ps(mask); }
+
+// Up to four 3-vectors at p, p + stride, ... (byte stride of any sign) as three registers of
+// x, y and z, one point to a lane; lanes past K repeat point 0. Each point is read as its own
+// 8 and 4 bytes.
+template <int K>
+inline void gather3(const float* p, int32_t stride, __m128& x, __m128& y, __m128& z) {
+  const float* q[4];
+  for (int k = 0; k < 4; ++k)
+    q[k] = k < K ? reinterpret_cast<const float*>(reinterpret_cast<const char*>(p) + std::ptrdiff_t(k) * stride) : p;
+  const __m128 ab = _mm_loadh_pi(load<2, false>(q[0]), reinterpret_cast<const __m64*>(q[1]));
+  const __m128 cd = _mm_loadh_pi(load<2, false>(q[2]), reinterpret_cast<const __m64*>(q[3]));
+  x = pick<0, 2, 0, 2>(ab, cd);
+  y = pick<1, 3, 1, 3>(ab, cd);
+  z = gather4(q[0] + 2, q[1] + 2, q[2] + 2, q[3] + 2);
+}
+// The first K lanes of x, y, z back as 3-vectors at p, p + stride, ...
+template <int K>
+inline void scatter3(float* p, int32_t stride, __m128 x, __m128 y, __m128 z) {
+  auto at = [&](int k) { return reinterpret_cast<float*>(reinterpret_cast<char*>(p) + std::ptrdiff_t(k) * stride); };
+  const __m128 lo = _mm_unpacklo_ps(x, y), hi = _mm_unpackhi_ps(x, y);
+  store<2, false>(at(0), lo);
+  _mm_store_ss(at(0) + 2, z);
+  if constexpr (K > 1) {
+    storeHigh(at(1), lo);
+    _mm_store_ss(at(1) + 2, splat<1>(z));
+  }
+  if constexpr (K > 2) {
+    store<2, false>(at(2), hi);
+    _mm_store_ss(at(2) + 2, _mm_movehl_ps(z, z));
+  }
+  if constexpr (K > 3) {
+    storeHigh(at(3), hi);
+    _mm_store_ss(at(3) + 2, splat<3>(z));
+  }
+}
 
 }  // namespace tarn::simd

@@ -88,6 +88,102 @@ TEST(Exports, EveryStubJumpsThroughItsSlotToItsEntry) {
   dlclose(so);
 }
 
+// The library's whole surface, typed from its naming rule: family, single patterns (LayoutS and
+// LayoutP), array patterns (LayoutS, LayoutL and LayoutP), both types; fixed patterns once, 32f, no
+// suffix; Copy with its nine layout pairs; and the five names outside the form.
+struct SurfaceRow {
+  const char* families;
+  const char* single;
+  const char* array;
+  const char* fixed;
+};
+constexpr SurfaceRow kSurface[] = {
+  {"Add", "mm tm tt vv vc", "mam tam mat tat mama tama tata vav vava vac vca vaca", "v2 v3 v4"},
+  {"Sub", "mm mt tm tt vv vc cv",
+   "mam tam mat tat mma mta tma tta mama mata tama tata vav vva vava vac vca vaca cav cva cava", "v2 v3 v4"},
+  {"Mul", "mm mt tm tt mv tv mc tc vc",
+   "mam mat tam tat mma mta tma tta mama mata tama tata mav tav mva tva mava tava mac tac vac vca vaca", "mm4x4"},
+  {"Saxpy", "vv", "vav vva vava", ""},
+  {"LComb", "vv", "vav vava", ""},
+  {"Gaxpy", "mv", "mva mvav", ""},
+  {"DotProduct", "vv", "vav vava", "v2 v3 v4"},
+  {"CrossProduct", "vv", "vav vva vava", "v2 v3 v4"},
+  {"L2Norm", "v", "va", ""},
+  {"FrobNorm Trace", "m", "ma", ""},
+  {"Det Invert Transpose", "m", "ma", "m4"},
+  {"LUDecomp CholeskyDecomp QRDecomp", "m", "ma", ""},
+  {"LUBackSubst CholeskyBackSubst QRBackSubst", "mv", "mva mava", ""},
+  {"EigenValuesSym EigenValuesVectorsSym EigenValues EigenValuesVectors EigenValuesVectorsLeft "
+   "EigenValuesVectorsRight",
+   "m", "ma", ""},
+  {"Extract", "m t v", "ma ta va", ""},
+  {"LoadIdentity", "", "ma", ""},
+  {"AffineTransform", "", "", "m4v2 m4v2a m4v3 m4v3a m4v4 m4v4a"},
+  {"AffineTransformCoord AffineTransformNormal", "", "", "m4v2 m4v2a m4v3 m4v3a"},
+  {"Project Unproject", "", "", "m4v3 m4v3a"},
+  {"AffineTransform3DH", "", "", "mva"},
+  {"BaryCentric Hermite InterpolationCatmullRom InterpolationLinear Len LenSqr Max Min MulC Normalize", "", "",
+   "v2 v3 v4"},
+  {"RotationAxis", "", "", "v3m4"},
+  {"Identity IsIdentity LookAtLH LookAtRH MulTranspose OrthoLH OrthoRH OrthoOffCenterLH OrthoOffCenterRH "
+   "PerspectiveFovLH PerspectiveFovRH PerspectiveLH PerspectiveRH PerspectiveOffCenterLH PerspectiveOffCenterRH "
+   "RotationX RotationY RotationZ RotationYawPitchRoll Scaling Translation",
+   "", "", "m4"},
+};
+
+std::vector<std::string> words(const char* s) {
+  std::istringstream in(s);
+  std::vector<std::string> out;
+  for (std::string w; in >> w;) out.push_back(w);
+  return out;
+}
+
+// The surface in groups: a family's general members (every pattern, type and layout) are one
+// group, its fixed members another; the version and the buffer-size queries are groups of their own.
+std::map<std::string, std::set<std::string>> surfaceGroups() {
+  std::map<std::string, std::set<std::string>> g;
+  for (const SurfaceRow& row : kSurface)
+    for (const std::string& fam : words(row.families)) {
+      for (const char* type : {"32f", "64f"}) {
+        for (const std::string& p : words(row.single))
+          for (const char* lay : {"", "_P"}) g[fam].insert("tarn" + fam + "_" + p + "_" + type + lay);
+        for (const std::string& p : words(row.array))
+          for (const char* lay : {"", "_L", "_P"}) g[fam].insert("tarn" + fam + "_" + p + "_" + type + lay);
+      }
+      for (const std::string& p : words(row.fixed)) g[fam + " fixed"].insert("tarn" + fam + "_" + p + "_32f");
+    }
+  for (const char* type : {"32f", "64f"})
+    for (const char* p : {"ma", "va"})
+      for (const char* from : {"S", "L", "P"})
+        for (const char* to : {"S", "L", "P"})
+          g["Copy"].insert(std::string("tarnCopy_") + p + "_" + type + "_" + from + to);
+  g["version"] = {"tarnGetLibVersion"};
+  g["buffer sizes"] = {"tarnEigenValuesGetBufSize_32f", "tarnEigenValuesGetBufSize_64f",
+                       "tarnEigenValuesVectorsGetBufSize_32f", "tarnEigenValuesVectorsGetBufSize_64f"};
+  return g;
+}
+
+// Every export is a name of the surface, and a group the build has is there whole: once every
+// family is in, the export list is the surface.
+TEST(Exports, ExportListIsTheSurfaceGroupByGroup) {
+  const auto groups = surfaceGroups();
+  std::set<std::string> surface;
+  for (const auto& [group, names] : groups) surface.insert(names.begin(), names.end());
+  EXPECT_EQ(surface.size(), 874u);
+  const auto exported = tableNames();
+  const std::set<std::string> have(exported.begin(), exported.end());
+  for (const std::string& n : have) EXPECT_TRUE(surface.count(n)) << n << " is not a name of the surface";
+  size_t whole = 0;
+  for (const auto& [group, names] : groups) {
+    size_t present = 0;
+    for (const std::string& n : names) present += have.count(n);
+    if (present == 0) continue;
+    ++whole;
+    for (const std::string& n : names) EXPECT_TRUE(have.count(n)) << group << ": " << n << " missing";
+  }
+  EXPECT_GE(whole, 2u);  // at least the version and one family
+}
+
 TEST(Version, ConstantRecord) {
   const tarnLibraryVersion* v = tarnGetLibVersion();
   ASSERT_NE(v, nullptr);

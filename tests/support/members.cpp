@@ -20,6 +20,13 @@ const std::vector<std::string>& fixedMembers() {
   return kFixed;
 }
 
+const std::vector<FixedFn>& fixedCalls() {
+  static const std::vector<FixedFn> kCalls = {
+#include "fixed_invoke.inc"
+  };
+  return kCalls;
+}
+
 const MemberFn& member(std::string_view name) {
   for (const auto& m : allMembers())
     if (name == m.name) return m;

@@ -48,6 +48,20 @@ struct MemberFn {
 // The fixed-size members, which take no argument record.
 const std::vector<std::string>& fixedMembers();
 
+// Arguments for a call of any fixed-size member: its float pointers take floats[0], floats[1]
+// ... in order, an int32_t pointer takes ints, every float takes value.
+struct FixedArgs {
+  float* floats[8] = {};
+  int32_t* ints = nullptr;
+  float value = 0;
+  int32_t stride = 0, count = 0;
+};
+struct FixedFn {
+  const char* name;
+  tarnStatus (*call)(const FixedArgs&);
+};
+const std::vector<FixedFn>& fixedCalls();
+
 const std::vector<MemberFn>& allMembers();
 const MemberFn& member(std::string_view name);
 std::vector<const MemberFn*> membersOf(std::string_view family);  // "Add" -> tarnAdd_*
