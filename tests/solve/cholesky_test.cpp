@@ -1,7 +1,8 @@
 // CholeskyDecomp and CholeskyBackSubst against the plain models of tests/ref/solve_ref.hpp:
 // every member, orders 1 to 8, every placement, results on their sources; pivots that cancel to
 // exactly zero or to a tiny positive value, negative and NaN pivots, upper triangles of NaNs
-// that must never be read; failing objects across thread slices; the limits of every member.
+// that must never be read; failing objects across thread slices; objects that overlap; the limits
+// of every member.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -183,6 +184,20 @@ TEST(Cholesky, RegionFromTheLimitOn) {
         EXPECT_EQ(why, "");
       }
     }
+}
+
+// Right-hand sides one element apart, each solved onto itself: every system must see the
+// elements its predecessors wrote, as one system after the other does.
+TEST(CholeskyBackSubst, OverlappingVectorsOnTheirSource) {
+  constexpr int n = 4, count = 13;
+  std::mt19937 rng(9);
+  std::vector<double> f(size_t(count * n * n)), v(size_t(count + n - 1));
+  for (auto& x : f) x = randomValue(rng, 8);
+  for (auto& x : v) x = randomValue(rng, 8);
+  std::vector<double> model = v;
+  for (int k = 0; k < count; ++k) ref::cholSolve<double>(&f[size_t(k * n * n)], &model[size_t(k)], &model[size_t(k)], n);
+  ASSERT_EQ(tarnCholeskyBackSubst_mava_64f(f.data(), n * n * 8, n * 8, 8, v.data(), 8, 8, v.data(), 8, 8, n, count), 0);
+  for (size_t i = 0; i < v.size(); ++i) EXPECT_TRUE(sameValue(bitsOf(v[i], 8), bitsOf(model[i], 8), 8)) << i;
 }
 
 }  // namespace

@@ -59,6 +59,12 @@ std::vector<double> luObject(Kind kind, int n, int esize, std::mt19937& rng) {
       for (int r = 0; r < n; ++r)
         for (int c = 0; c < n; ++c) at(r, c) = kind == Kind::Zero ? 0.0 : r == c ? 1.0 : 0.0;
       if (kind != Kind::Zero) at(k, k) = probe(kind == Kind::AtLimit, n, esize) * (sign(rng) ? 1 : -1);
+      // A failing stage before the last exchanges first: a larger candidate, still too small,
+      // one row down, so pivot shows whether the exchange came before the test.
+      if (kind == Kind::BelowLimit && k + 1 < n) {
+        at(k + 1, k) = at(k, k);
+        at(k, k) *= 0.5;
+      }
       break;
     }
   }
@@ -108,7 +114,7 @@ TEST(LUDecomp, EveryMemberOrderAndPlacement) {
 TEST(LUDecomp, FailingObjectsAcrossThreadSlices) {
   for (const MemberFn* m : membersOf("LUDecomp")) {
     if (!m->hasCount) continue;
-    for (int n : {2, 3, 6}) {
+    for (int n : {4, 7}) {
       const int count = 48000 / (n * n) + 5;  // past every limit of the family (40001 at most)
       for (int threads = 1; threads <= 4; ++threads) {
         const int q = count / threads, r = count % threads;
@@ -244,6 +250,22 @@ TEST(LUDecomp, ConcurrentCallersKeepTheirStatus) {
   for (int i = 0; i < 4; ++i) ts.emplace_back(caller, i % 2 == 0, &bad[i]);
   for (auto& t : ts) t.join();
   for (int i = 0; i < 4; ++i) EXPECT_EQ(bad[i], 0) << "caller " << i;
+}
+
+// Objects that share rows (each object one row below the last, result on its source): every
+// object must see the rows its predecessors wrote, as one object after the other does.
+TEST(LUDecomp, OverlappingObjectsOnTheirSource) {
+  constexpr int n = 3, count = 13, rows = count + n - 1;
+  std::mt19937 rng(5);
+  std::vector<float> buf(size_t(rows * n)), model;
+  for (auto& v : buf) v = float(randomValue(rng, 4));
+  model = buf;
+  std::vector<int32_t> piv(size_t(count * n)), want(piv.size());
+  for (int k = 0; k < count; ++k)
+    ASSERT_EQ(ref::luDecomp<float>(&model[size_t(k * n)], &model[size_t(k * n)], &want[size_t(k * n)], n), 0);
+  ASSERT_EQ(tarnLUDecomp_ma_32f(buf.data(), n * 4, n * 4, 4, piv.data(), buf.data(), n * 4, n * 4, 4, n, count), 0);
+  EXPECT_EQ(piv, want);
+  EXPECT_EQ(buf, model);
 }
 
 }  // namespace
