@@ -211,15 +211,14 @@ inline void swapWhere(__m128d m, __m128d& a, __m128d& b) {
   b = _mm_xor_pd(b, d);
 }
 
-// rsqrtss on each lane in turn: the scalar approximation, lane by lane, never the packed one.
-// Each step approximates lane 0 and rotates the register by one lane.
+// rsqrtss on each lane: the scalar approximation of every lane on its own, never the packed
+// instruction. The four estimates are independent, so they overlap in the pipeline.
 inline __m128 rsqrtEachLane(__m128 d) {
-  __m128 r = d;
-  for (int k = 0; k < 4; ++k) {
-    r = _mm_rsqrt_ss(r);
-    r = _mm_shuffle_ps(r, r, _MM_SHUFFLE(0, 3, 2, 1));
-  }
-  return r;
+  const __m128 r0 = _mm_rsqrt_ss(d);
+  const __m128 r1 = _mm_rsqrt_ss(_mm_shuffle_ps(d, d, 1));
+  const __m128 r2 = _mm_rsqrt_ss(_mm_movehl_ps(d, d));
+  const __m128 r3 = _mm_rsqrt_ss(_mm_shuffle_ps(d, d, 3));
+  return _mm_movelh_ps(_mm_unpacklo_ps(r0, r1), _mm_unpacklo_ps(r2, r3));
 }
 inline float rsqrtScalar(float d) { return _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(d))); }
 

@@ -26,21 +26,27 @@ struct FactorLanes {
   V fail;       // lanes with a pivot not above zero
 
   template <class View>
-  void load(const View* v) {
+  TARN_INLINE void load(const View* v) {
+    TARN_EXPAND
     for (int i = 0; i < N; ++i)
+      TARN_EXPAND
       for (int j = 0; j <= i; ++j) a[tri(i, j)] = solve::gather<T>(v, i, j);
   }
 
-  void run() {
+  TARN_INLINE void run() {
     const V zero = simd::broadcast(T(0));
     fail = simd::lessThan(zero, zero);
+    TARN_EXPAND
     for (int i = 0; i < N; ++i) {
+      TARN_EXPAND
       for (int j = 0; j < i; ++j) {
         V s = a[tri(i, j)];
+        TARN_EXPAND
         for (int k = 0; k < j; ++k) s = simd::sub(s, simd::mul(a[tri(i, k)], a[tri(j, k)]));
         a[tri(i, j)] = simd::mul(s, a[tri(j, j)]);
       }
       V d = a[tri(i, i)];
+      TARN_EXPAND
       for (int k = 0; k < i; ++k) d = simd::sub(d, simd::mul(a[tri(i, k)], a[tri(i, k)]));
       fail = simd::either(fail, simd::lessEqual(d, zero));
       a[tri(i, i)] = invSqrtLanes(d);
@@ -51,14 +57,18 @@ struct FactorLanes {
 // The substitution of solveExpanded in lanes: y holds b on entry and x on return; l is each
 // lane's factor (or one factor in every lane), lower triangle row-major.
 template <class T, int N>
-inline void solveLanes(const simd::Vec<T>* l, simd::Vec<T> (&y)[N]) {
+TARN_INLINE void solveLanes(const simd::Vec<T>* l, simd::Vec<T> (&y)[N]) {
+  TARN_EXPAND
   for (int i = 0; i < N; ++i) {
     simd::Vec<T> v = y[i];
+    TARN_EXPAND
     for (int j = 0; j < i; ++j) v = simd::sub(v, simd::mul(l[tri(i, j)], y[j]));
     y[i] = simd::mul(v, l[tri(i, i)]);
   }
+  TARN_EXPAND
   for (int i = N - 1; i >= 0; --i) {
     simd::Vec<T> v = y[i];
+    TARN_EXPAND
     for (int j = i + 1; j < N; ++j) v = simd::sub(v, simd::mul(l[tri(j, i)], y[j]));
     y[i] = simd::mul(v, l[tri(i, i)]);
   }

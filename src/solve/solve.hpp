@@ -19,6 +19,11 @@
 #include "operand.hpp"
 #include "simd.hpp"
 
+// Loops over the elements of a fixed order are expanded whole, and the bodies of a group are
+// inlined into it: a group is straight-line code.
+#define TARN_EXPAND _Pragma("GCC unroll 64")
+#define TARN_INLINE __attribute__((always_inline)) inline
+
 namespace tarn::solve {
 
 template <class T> inline constexpr int kGroup = simd::kLanes<T>;  // objects per register
