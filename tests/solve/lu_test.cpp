@@ -211,24 +211,81 @@ TEST(LUDecomp, RegionFromTheLimitOn) {
   }
 }
 
-// Factor, then solve, through the exports: the residual of every system is small.
-TEST(LUDecomp, FactorThenSolve) {
-  constexpr int n = 5, count = 301;
-  std::mt19937 rng(7);
+// Factor, then solve, through the exports of both families: whatever the two agree on between
+// them (the row order in pivot, the reciprocals on Cholesky's diagonal), x must solve A x = b.
+// mava solves each system with its own factor, mva every right-hand side with the first factor.
+template <class T>
+struct Exports;
+template <>
+struct Exports<float> {
+  static constexpr auto lu = tarnLUDecomp_ma_32f;
+  static constexpr auto luPairs = tarnLUBackSubst_mava_32f;
+  static constexpr auto luShared = tarnLUBackSubst_mva_32f;
+  static constexpr auto chol = tarnCholeskyDecomp_ma_32f;
+  static constexpr auto cholPairs = tarnCholeskyBackSubst_mava_32f;
+  static constexpr auto cholShared = tarnCholeskyBackSubst_mva_32f;
+};
+template <>
+struct Exports<double> {
+  static constexpr auto lu = tarnLUDecomp_ma_64f;
+  static constexpr auto luPairs = tarnLUBackSubst_mava_64f;
+  static constexpr auto luShared = tarnLUBackSubst_mva_64f;
+  static constexpr auto chol = tarnCholeskyDecomp_ma_64f;
+  static constexpr auto cholPairs = tarnCholeskyBackSubst_mava_64f;
+  static constexpr auto cholShared = tarnCholeskyBackSubst_mva_64f;
+};
+
+template <class T>
+void factorThenSolve(bool cholesky, int n) {
+  using X = Exports<T>;
+  constexpr int count = 37, e = int(sizeof(T));
+  const int os = n * n * e, rs = n * e;
+  std::mt19937 rng(unsigned(n + 10 * cholesky));
   std::uniform_real_distribution<double> u(-1, 1);
-  std::vector<double> a(size_t(n * n * count)), f(a.size()), b(size_t(n * count)), x(b.size());
+  std::vector<T> a(size_t(n * n * count)), f(a.size()), b(size_t(n * count)), x(b.size()), y(b.size());
   std::vector<int32_t> piv(b.size());
-  for (auto& v : a) v = u(rng);
-  for (auto& v : b) v = u(rng);
-  ASSERT_EQ(tarnLUDecomp_ma_64f(a.data(), n * n * 8, n * 8, 8, piv.data(), f.data(), n * n * 8, n * 8, 8, n, count), 0);
-  ASSERT_EQ(tarnLUBackSubst_mava_64f(f.data(), n * n * 8, n * 8, 8, piv.data(), b.data(), n * 8, 8, x.data(), n * 8, 8,
-                                     n, count),
-            0);
+  for (int k = 0; k < count; ++k) {
+    std::vector<double> m(size_t(n * n));
+    for (auto& v : m) v = u(rng);
+    for (int r = 0; r < n; ++r)
+      for (int c = 0; c < n; ++c) {
+        double s = r == c ? double(n) : 0.0;  // M M^T + n I for Cholesky
+        for (int j = 0; j < n; ++j) s += m[size_t(r * n + j)] * m[size_t(c * n + j)];
+        a[size_t(k * n * n + r * n + c)] = T(cholesky ? s : m[size_t(r * n + c)]);
+      }
+  }
+  for (auto& v : b) v = T(u(rng));
+  if (cholesky) {
+    ASSERT_EQ(X::chol(a.data(), os, rs, e, f.data(), os, rs, e, n, count), 0);
+    ASSERT_EQ(X::cholPairs(f.data(), os, rs, e, b.data(), rs, e, x.data(), rs, e, n, count), 0);
+    ASSERT_EQ(X::cholShared(f.data(), rs, e, b.data(), rs, e, y.data(), rs, e, n, count), 0);
+  } else {
+    ASSERT_EQ(X::lu(a.data(), os, rs, e, piv.data(), f.data(), os, rs, e, n, count), 0);
+    ASSERT_EQ(X::luPairs(f.data(), os, rs, e, piv.data(), b.data(), rs, e, x.data(), rs, e, n, count), 0);
+    ASSERT_EQ(X::luShared(f.data(), rs, e, piv.data(), b.data(), rs, e, y.data(), rs, e, n, count), 0);
+  }
+  // Backward error of each solution: |A x - b| against |A| |x| + |b|, row by row.
+  const double tol = 16.0 * n * double(std::numeric_limits<T>::epsilon());
   for (int k = 0; k < count; ++k)
-    for (int r = 0; r < n; ++r) {
-      double s = 0;
-      for (int c = 0; c < n; ++c) s += a[size_t(k * n * n + r * n + c)] * x[size_t(k * n + c)];
-      EXPECT_NEAR(s, b[size_t(k * n + r)], 1e-9) << "system " << k;
+    for (int r = 0; r < n; ++r)
+      for (bool shared : {false, true}) {
+        const T* sys = &a[size_t((shared ? 0 : k) * n * n + r * n)];
+        const T* sol = &(shared ? y : x)[size_t(k * n)];
+        double s = -double(b[size_t(k * n + r)]), scale = std::fabs(double(b[size_t(k * n + r)]));
+        for (int c = 0; c < n; ++c) {
+          s += double(sys[c]) * double(sol[c]);
+          scale += std::fabs(double(sys[c]) * double(sol[c]));
+        }
+        EXPECT_LE(std::fabs(s), tol * scale) << (cholesky ? "Cholesky" : "LU") << " order " << n << " system " << k
+                                             << (shared ? " mva" : " mava") << " esize " << e;
+      }
+}
+
+TEST(Solvers, FactorThenSolveEveryOrder) {
+  for (bool cholesky : {false, true})
+    for (int n = 1; n <= 8; ++n) {
+      factorThenSolve<float>(cholesky, n);
+      factorThenSolve<double>(cholesky, n);
     }
 }
 
