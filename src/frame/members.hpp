@@ -310,6 +310,27 @@ inline constexpr Row kRows[] = {
   // tested before contiguity against one threshold.
   {"AffineTransform3DH", "mva", "transform3dh", "src1:op1 src2:op2 dst:vec count", "NCT", "", "", "6*count",
    Thr{1985, 1985, 0, 0, 0}, {}, Rule::None, true, {}, Forms::Float32S},
+  // LUDecomp and LUBackSubst: partial pivoting, the row order in pivot; the decomposition fails
+  // per object (a singular pivot), the substitution never.
+  {"LUDecomp", "m", "lu_decomp", "src:op1 pivot:pivot dst:mat widthHeight count", "NZT", "", "NZR"},
+  {"LUDecomp", "ma", "lu_decomp", "src:op1 pivot:pivot dst:mat widthHeight count", "NCZT", "NCZTR", "NCZTR",
+   "widthHeight*widthHeight*count", Thr{20001, 20001, 40001, 20001, 20001}, thr(20001, 20001, 20001), Rule::None, true},
+  {"LUBackSubst", "mv", "lu_back_subst", "src1:op1 pivot:pivotin src2:op2 dst:vec widthHeight count", "NZT", "", "NZR"},
+  {"LUBackSubst", "mva", "lu_back_subst", "src1:op1 pivot:pivotin src2:op2 dst:vec widthHeight count", "NCZT", "NCZTR",
+   "NCZTR", "(widthHeight+2*count)*widthHeight", thr(1701, 1701, 1701), thr(1701, 1701, 1701)},
+  {"LUBackSubst", "mava", "lu_back_subst", "src1:op1 pivot:pivotin src2:op2 dst:vec widthHeight count", "NCZT", "NCZTR",
+   "NCZTR", "(widthHeight+2)*widthHeight*count", thr(1701, 1701, 1701), thr(1701, 1701, 1701)},
+
+  // CholeskyDecomp and CholeskyBackSubst: the lower factor with reciprocals on its diagonal; the
+  // decomposition fails per object (a pivot not above zero), the substitution never.
+  {"CholeskyDecomp", "m", "cholesky_decomp", "src:op1 dst:mat widthHeight count", "NZT", "", "NZR"},
+  {"CholeskyDecomp", "ma", "cholesky_decomp", "src:op1 dst:mat widthHeight count", "NCZT", "NCZTR", "NCZTR",
+   "widthHeight*widthHeight*count", Thr{7501, 7501, 2001, 2001, 2001}, Thr{2001, 2001, 721, 2001, 2001}, Rule::None, true},
+  {"CholeskyBackSubst", "mv", "cholesky_back_subst", "src1:op1 src2:op2 dst:vec widthHeight count", "NZT", "", "NZR"},
+  {"CholeskyBackSubst", "mva", "cholesky_back_subst", "src1:op1 src2:op2 dst:vec widthHeight count", "NCZT", "NCZTR",
+   "NCZTR", "(widthHeight+2*count)*widthHeight", Thr{1201, 1201, 721, 721, 721}, thr(721, 721, 721)},
+  {"CholeskyBackSubst", "mava", "cholesky_back_subst", "src1:op1 src2:op2 dst:vec widthHeight count", "NCZT", "NCZTR",
+   "NCZTR", "(widthHeight+2)*widthHeight*count", Thr{2051, 1701, 1701, 1701, 1701}, Thr{1701, 1701, 1701, 1701, 2051}},
 };
 
 inline constexpr FamilyDoc kDocs[] = {
@@ -372,6 +393,10 @@ inline constexpr FamilyDoc kDocs[] = {
   {"Scaling", "Scaling by sx, sy, sz."},
   {"Translation", "Translation by tx, ty, tz in the fourth row."},
   {"Unproject", "Viewport coordinates back through the inverse of (world * view) * projection; Singular when that product cannot be inverted."},
+  {"LUDecomp", "LU factorisation with partial pivoting: dst holds L (unit diagonal, not stored) and U packed, row k of the factors in row pivot[k]; rows are never moved."},
+  {"LUBackSubst", "Solves A x = b from the factors and pivot of LUDecomp: b is read through pivot, x is written by column."},
+  {"CholeskyDecomp", "Cholesky factorisation A = L L^T of the lower triangle of src: dst holds L below the diagonal and 1/L(i,i) on it; the upper triangle is neither read nor written."},
+  {"CholeskyBackSubst", "Solves A x = b from the factor of CholeskyDecomp (reciprocals on its diagonal), with multiplications and subtractions only."},
 };
 
 inline constexpr Fixed kFixed[] = {
@@ -477,6 +502,8 @@ inline constexpr Override kOverrides[] = {
   {"tarnExtract_v_32f_P", "NZR"},    // pointers before the size, unlike its siblings
   {"tarnLoadIdentity_ma_32f_P", "NZRCO"},  // the shift before the count, unlike the 64f twin
   {"tarnCrossProduct_vva_64f_P", {}, true},  // no wrapper: serial however large E is
+  {"tarnCholeskyBackSubst_mva_32f_L", "NTRZC"},  // strides and shifts before the sizes and the count
+  {"tarnCholeskyBackSubst_mva_64f_L", "NTRZC"},
 };
 // clang-format on
 

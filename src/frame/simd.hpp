@@ -365,3 +365,62 @@ inline void scatter3(float* p, int32_t stride, __m128 x, __m128 y, __m128 z) {
 }
 
 }  // namespace tarn::simd
+
+// ---- Solvers: one object per lane ----------------------------------------------------------
+// The factorisations and substitutions run G objects at once, element (r, c) of object l in
+// lane l of one register. Every lane performs exactly the operations one object performs on its
+// own, in the same order and rounding, so each object keeps its bits. Comparisons give all-ones
+// or all-zero lanes; selections are bitwise and so keep every pattern.
+namespace tarn::simd {
+
+// a > b ? a : b lane by lane, so a NaN in either keeps b: the strict test of a pivot search.
+inline __m128 greaterOf(__m128 a, __m128 b) { return _mm_max_ps(a, b); }
+inline __m128d greaterOf(__m128d a, __m128d b) { return _mm_max_pd(a, b); }
+
+inline __m128 absOf(__m128 a) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), a); }
+inline __m128d absOf(__m128d a) { return _mm_andnot_pd(_mm_set1_pd(-0.0), a); }
+
+inline __m128 lessThan(__m128 a, __m128 b) { return _mm_cmplt_ps(a, b); }
+inline __m128d lessThan(__m128d a, __m128d b) { return _mm_cmplt_pd(a, b); }
+inline __m128 lessEqual(__m128 a, __m128 b) { return _mm_cmple_ps(a, b); }
+inline __m128d lessEqual(__m128d a, __m128d b) { return _mm_cmple_pd(a, b); }
+inline __m128 greaterThan(__m128 a, __m128 b) { return _mm_cmpgt_ps(a, b); }
+inline __m128d greaterThan(__m128d a, __m128d b) { return _mm_cmpgt_pd(a, b); }
+inline __m128 equalTo(__m128 a, __m128 b) { return _mm_cmpeq_ps(a, b); }
+inline __m128d equalTo(__m128d a, __m128d b) { return _mm_cmpeq_pd(a, b); }
+inline __m128 either(__m128 a, __m128 b) { return _mm_or_ps(a, b); }
+inline __m128d either(__m128d a, __m128d b) { return _mm_or_pd(a, b); }
+inline bool anyLane(__m128 m) { return _mm_movemask_ps(m) != 0; }
+inline bool anyLane(__m128d m) { return _mm_movemask_pd(m) != 0; }
+
+// m ? a : b, bit by bit.
+inline __m128d select(__m128d m, __m128d a, __m128d b) { return _mm_or_pd(_mm_and_pd(m, a), _mm_andnot_pd(m, b)); }
+
+// Exchanges a and b in the lanes of m.
+inline void swapWhere(__m128 m, __m128& a, __m128& b) {
+  const __m128 d = _mm_and_ps(_mm_xor_ps(a, b), m);
+  a = _mm_xor_ps(a, d);
+  b = _mm_xor_ps(b, d);
+}
+inline void swapWhere(__m128d m, __m128d& a, __m128d& b) {
+  const __m128d d = _mm_and_pd(_mm_xor_pd(a, b), m);
+  a = _mm_xor_pd(a, d);
+  b = _mm_xor_pd(b, d);
+}
+
+// rsqrtss on each lane: the scalar approximation of every lane on its own, never the packed
+// instruction. The four estimates are independent, so they overlap in the pipeline.
+inline __m128 rsqrtEachLane(__m128 d) {
+  const __m128 r0 = _mm_rsqrt_ss(d);
+  const __m128 r1 = _mm_rsqrt_ss(_mm_shuffle_ps(d, d, 1));
+  const __m128 r2 = _mm_rsqrt_ss(_mm_movehl_ps(d, d));
+  const __m128 r3 = _mm_rsqrt_ss(_mm_shuffle_ps(d, d, 3));
+  return _mm_movelh_ps(_mm_unpacklo_ps(r0, r1), _mm_unpacklo_ps(r2, r3));
+}
+inline float rsqrtScalar(float d) { return _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(d))); }
+
+// Lanes to memory, aligned.
+inline void storeLanes(float* p, __m128 v) { _mm_store_ps(p, v); }
+inline void storeLanes(double* p, __m128d v) { _mm_store_pd(p, v); }
+
+}  // namespace tarn::simd

@@ -61,6 +61,8 @@ tarnStatus callOnce(const std::string& name) {
   Args a;
   for (int i = 0; i < m.nop; ++i) {
     void* ptr = (m.blk[i].has & kRoi) ? static_cast<void*>(arena.tables[i]) : arena.data + size_t(i) * kRegion;
+    // A plain pointer the member reads is a row order from a factorisation: indices 0, 1, 2.
+    if (m.blk[i].kind == 0 && !m.blk[i].out) ptr = arena.ints;
     a.op[i] = {ptr, 256, 32, esize, 0, 3, 3};
   }
   a.width = a.height = a.len = a.order = 3;

@@ -196,6 +196,18 @@ TEST(Validation, PinnedOrders) {
       {"tarnDet_ma_64f_P", [](Args& a) { a.order = 0; a.op[0].roi = 4; }, tarnStatusBadSize},
       {"tarnInvert_ma_32f_L", [](Args& a) { a.op[0].roi = 2; a.op[0].elem = 2; }, tarnStatusBadStride},
       {"tarnInvert_m_64f_P", [](Args& a) { a.op[1].ptr = nullptr; a.op[0].roi = 4; }, tarnStatusNullPointer},
+      // Solvers: the count before the size in arrays, the size before the strides in singles; the
+      // mva LayoutL solve of Cholesky alone checks strides and shifts before the size and count.
+      {"tarnLUDecomp_ma_32f", [](Args& a) { a.count = 0; a.order = 0; }, tarnStatusBadCount},
+      {"tarnLUDecomp_m_64f", [](Args& a) { a.order = 0; a.op[2].row = 4; }, tarnStatusBadSize},
+      {"tarnLUDecomp_ma_32f_P", [](Args& a) { a.op[2].obj = 2; a.op[0].roi = -4; }, tarnStatusBadStride},
+      {"tarnLUBackSubst_mva_32f_L", [](Args& a) { a.op[1].ptr = nullptr; a.count = 0; }, tarnStatusNullPointer},
+      {"tarnLUBackSubst_mava_64f_L", [](Args& a) { a.op[2].roi = 4; a.order = 0; }, tarnStatusBadSize},
+      {"tarnCholeskyBackSubst_mva_32f_L", [](Args& a) { a.op[0].elem = 2; a.count = 0; }, tarnStatusBadStride},
+      {"tarnCholeskyBackSubst_mva_32f", [](Args& a) { a.op[0].elem = 2; a.count = 0; }, tarnStatusBadCount},
+      {"tarnCholeskyBackSubst_mva_64f_L", [](Args& a) { a.op[1].roi = -8; a.order = 0; }, tarnStatusBadRoiShift},
+      {"tarnCholeskyBackSubst_mva_64f_L", [](Args& a) { a.order = 0; a.count = 0; }, tarnStatusBadSize},
+      {"tarnCholeskyBackSubst_mava_32f_L", [](Args& a) { a.op[1].roi = -4; a.order = 0; }, tarnStatusBadSize},
   };
   for (const Case& c : cases) {
     const MemberFn& m = member(c.name);
