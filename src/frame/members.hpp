@@ -230,6 +230,23 @@ inline constexpr Row kRows[] = {
   {"LoadIdentity", "ma", "load_identity", kArgsFill, "NZCEO", "NZCER", "NZCRO"},
   {"Transpose", "m", "transpose", kArgsTranspose, "NZT", "", "NZR"},
   {"Transpose", "ma", "transpose", kArgsTranspose, "NCZT", "NCZTR", "NCZTR"},
+
+  // Symmetric eigenproblems: sizes before the count, a working matrix per thread on the
+  // parallel path, and a status from every worker. Values go parallel above
+  // widthHeight*(widthHeight+1)*count = 20000 (40000 for contiguous 32f LayoutL), vectors above
+  // widthHeight*(2*widthHeight+1)*count = 1700.
+  {.family = "EigenValuesSym", .pattern = "m", .impl = "eigen_values_sym",
+   .args = "src:op1 scratch:buffer dst:values widthHeight count", .checksS = "NZT", .checksP = "NZR", .canFail = true},
+  {"EigenValuesSym", "ma", "eigen_values_sym", "src:op1 scratch:buffer dst:values widthHeight count",
+   "NZCT", "NZCRT", "NZCRT", "widthHeight*(widthHeight+1)*count", {20001, 20001, 40001, 20001, 20001},
+   thr(20001, 20001, 20001), Rule::None, true, "widthHeight*widthHeight*esize"},
+  {.family = "EigenValuesVectorsSym", .pattern = "m", .impl = "eigen_values_vectors_sym",
+   .args = "src:op1 scratch:buffer dstVectors/dst:mat dstValues:values widthHeight count", .checksS = "NZT",
+   .checksP = "NZR", .canFail = true},
+  {"EigenValuesVectorsSym", "ma", "eigen_values_vectors_sym",
+   "src:op1 scratch:buffer dstVectors/dst:mat dstValues:values widthHeight count", "NZCT", "NZCRT", "NZCRT",
+   "widthHeight*(2*widthHeight+1)*count", thr(1701, 1701, 1701), thr(1701, 1701, 1701), Rule::None, true,
+   "widthHeight*widthHeight*esize"},
 };
 
 inline constexpr FamilyDoc kDocs[] = {
@@ -243,6 +260,8 @@ inline constexpr FamilyDoc kDocs[] = {
   {"Extract", "Gathers an operand into one dense buffer, row by row; a t operand arrives transposed."},
   {"LoadIdentity", "Fills every matrix of the array with ones on the main diagonal and zeros elsewhere."},
   {"Transpose", "Writes the transpose of each matrix: dst has width rows and height columns."},
+  {"EigenValuesSym", "All eigenvalues of each symmetric matrix, in descending order: Householder tridiagonalisation, then implicit QL or QR sweeps; scratch holds one widthHeight x widthHeight working matrix."},
+  {"EigenValuesVectorsSym", "Eigenvalues of each symmetric matrix in descending order, with the eigenvector of value j in column j of dstVectors; scratch holds one widthHeight x widthHeight working matrix."},
 };
 
 inline constexpr Fixed kFixed[] = {
