@@ -36,7 +36,13 @@ struct Model {
   std::vector<T> w;  // the working matrix
   std::vector<T>& val;  // n values, holding the caller's earlier content
   std::vector<T>& z;    // n*n vectors, row-major (vectors only)
-  int sweepsMax = 0;    // the most sweeps any eigenvalue took
+  // What happened, for tests that must prove their matrices reach a branch.
+  struct Events {
+    bool up = false;     // the upward sweep ran
+    int sweepsMax = 0;   // the most sweeps any eigenvalue took
+    int splits = 0;      // rotation loops left at a small r
+    int tSkips = 0;      // updates skipped for a small last t
+  } ev;
 
   static constexpr double kEpsD = sizeof(T) == 4 ? 1.1920928955078125e-07 : 2.220446049250313e-16;
   const S eps = S(T(kEpsD));
@@ -164,6 +170,7 @@ struct Model {
       const int lo = up ? i + 1 : i, hi = up ? i : i + 1;  // the element that takes g + p, the other one
       if (i != n0) e(up ? i + 1 : i - 1) = T(r);
       if (eps >= std::fabs(r)) {
+        ++ev.splits;
         d(lo) = T(S(d(lo)) - p);
         e(up ? m - 1 : m) = T(0);
         return false;
@@ -187,6 +194,7 @@ struct Model {
         for (int j = 0; j < n; ++j) Z(i, j) = i == j ? 1 : 0;
     householder();
     const bool up = std::fabs(d(n - 1)) > std::fabs(d(0));
+    ev.up = up;
     typename A::Pr P = 1;
     for (int k = 0; k < n - 1; ++k) {
       const int l = up ? k : n - 1 - k;
@@ -200,11 +208,14 @@ struct Model {
         }
         if (m == l) break;
         if (sweeps == 30) return tarnStatusNoConvergence;
-        sweepsMax = std::max(sweepsMax, sweeps + 1);
+        ev.sweepsMax = std::max(ev.sweepsMax, sweeps + 1);
         typename A::Tt t;
         S p, g;
         if (!sweep(up, l, m, t, p, g)) continue;
-        if (eps >= std::fabs(S(t)) && (!up || l > 0)) continue;
+        if (eps >= std::fabs(S(t)) && (!up || l > 0)) {
+          ++ev.tSkips;
+          continue;
+        }
         if (up) d(l) = T(S(d(l)) - p), e(l) = T(g);
         else e(l - 1) = T(g), d(l) = T(S(d(l)) - p);
       }
@@ -243,10 +254,10 @@ struct Model {
 // finds there and receive what it leaves.
 template <class A>
 tarnStatus solve(const std::vector<typename A::T>& src, int n, std::vector<typename A::T>& val,
-                 std::vector<typename A::T>& z, int* sweepsMax = nullptr) {
+                 std::vector<typename A::T>& z, typename Model<A>::Events* events = nullptr) {
   Model<A> m{n, {}, val, z};
   const tarnStatus st = m.run(src);
-  if (sweepsMax) *sweepsMax = m.sweepsMax;
+  if (events) *events = m.ev;
   return st;
 }
 
