@@ -60,14 +60,23 @@ struct NoZ {
   float* at(int32_t, int32_t) const { return nullptr; }
 };
 
-// The working matrix in scratch, n by n, row after row.
-template <class T>
+// The working matrix, n by n, row after row; with Nc its order is known when compiling.
+template <class T_, int Nc = 0>
 struct Work {
+  using T = T_;
   T* w;
-  int32_t n;
-  T& operator()(int32_t i, int32_t j) const { return w[i * n + j]; }
-  T& d(int32_t i) const { return w[i * n + i]; }
-  T& e(int32_t i) const { return w[(i + 1) * n + i]; }
+  int32_t rt;
+  int32_t order() const { return Nc ? Nc : rt; }
+  T& operator()(int32_t i, int32_t j) const { return w[i * order() + j]; }
+  T& d(int32_t i) const { return w[i * order() + i]; }
+  T& e(int32_t i) const { return w[(i + 1) * order() + i]; }
+};
+
+// Z row after row in N*N elements of local storage.
+template <class T, int N>
+struct LocalZ {
+  T* p;
+  T* at(int32_t r, int32_t c) const { return p + r * N + c; }
 };
 
 // An off-diagonal element counts as zero up to 2*eps in magnitude; in single precision it is
@@ -161,12 +170,12 @@ inline void order2Vectors(T a, T b, T c, bool negTrace, const Z& z) {
 // Householder reduction of W to tridiagonal form. u lives in dst[k+1 .. n-1]. Every sum starts
 // from zero and runs upward. With vectors, Z (set to the identity beforehand) accumulates the
 // reflections.
-template <class Pr, class Z>
-void reduce(const Work<typename Pr::T>& W, typename Pr::T* u, const Z& z) {
+template <class Pr, class Wk, class Z>
+void reduce(const Wk& W, typename Pr::T* u, const Z& z) {
   using T = typename Pr::T;
   using S = typename Pr::S;
   const S eps = S(kEps<T>);
-  const int32_t n = W.n;
+  const int32_t n = W.order();
   for (int32_t k = 0; k + 2 < n; ++k) {
     S s = 0;
     for (int32_t i = k + 1; i < n; ++i) s += S(W(i, k)) * S(W(i, k));
@@ -244,13 +253,13 @@ inline void rotate(const Z& z, int32_t n, int32_t i, S c, S s, S g, S f, S r) {
 
 // Upward sweep (QL), l = 0 .. n-1. Writes every d[i] to dst at the end and returns the product
 // of the eigenvalues, from d[0] upward, in P; or tarnStatusNoConvergence.
-template <class Pr, class Z>
-tarnStatus sweepUp(const Work<typename Pr::T>& W, typename Pr::T* dst, const Z& z, typename Pr::Pr& P) {
+template <class Pr, class Wk, class Z>
+tarnStatus sweepUp(const Wk& W, typename Pr::T* dst, const Z& z, typename Pr::Pr& P) {
   using T = typename Pr::T;
   using S = typename Pr::S;
   using Tt = typename Pr::Tt;
   const S eps = S(kEps<T>);
-  const int32_t n = W.n;
+  const int32_t n = W.order();
   for (int32_t l = 0; l < n; ++l) {
     for (int iter = 0;;) {
       int32_t m = l;
@@ -303,13 +312,13 @@ tarnStatus sweepUp(const Work<typename Pr::T>& W, typename Pr::T* dst, const Z& 
 // it into P at every search that stops at a small element, so P is not the determinant when the
 // matrix splits; with vectors nothing is stored during the search and P is the product of the
 // final eigenvalues from d[0] upward.
-template <class Pr, class Z>
-tarnStatus sweepDown(const Work<typename Pr::T>& W, typename Pr::T* dst, const Z& z, typename Pr::Pr& P) {
+template <class Pr, class Wk, class Z>
+tarnStatus sweepDown(const Wk& W, typename Pr::T* dst, const Z& z, typename Pr::Pr& P) {
   using T = typename Pr::T;
   using S = typename Pr::S;
   using Tt = typename Pr::Tt;
   const S eps = S(kEps<T>);
-  const int32_t n = W.n;
+  const int32_t n = W.order();
   P = 1;
   for (int32_t l = n - 1; l >= 1; --l) {
     for (int iter = 0;;) {
@@ -395,10 +404,11 @@ void sortDescending(T* dst, int32_t n, const Z& z) {
 // One matrix of order n >= 3 from the source view `src` (at(r, c) is the address of element
 // (r, c)): copy, reduce, sweep in the direction the ends of the diagonal choose, test the
 // product, sort.
-template <class Pr, class Src, class Z>
-tarnStatus solveLarge(const Src& src, typename Pr::T* scratch, typename Pr::T* dst, const Z& z, int32_t n) {
+template <class Pr, int Nc = 0, class Src, class Z>
+tarnStatus solveLarge(const Src& src, typename Pr::T* scratch, typename Pr::T* dst, const Z& z, int32_t nrt) {
   using T = typename Pr::T;
-  const Work<T> W{scratch, n};
+  const Work<T, Nc> W{scratch, nrt};
+  const int32_t n = W.order();
   for (int32_t i = 0; i < n; ++i)
     for (int32_t j = 0; j < n; ++j) {
       W(i, j) = *src.at(i, j);
@@ -452,6 +462,20 @@ tarnStatus vectorsOne(const Src& src, typename Pr::T* scratch, typename Pr::T* v
     return tarnStatusOk;
   }
   return solveLarge<Pr>(src, scratch, values, z, n);
+}
+
+// Orders 3 to 6 with vectors: the working matrix and Z in local storage of a size known when
+// compiling, so the loops unroll. Every operation and every store to the values is the plain
+// path's, and Z is copied out at the end, success or failure; only the caller's scratch, whose
+// content on return is no result, is left alone.
+template <class Pr, int N, class Src, class Z>
+tarnStatus vectorsFixed(const Src& src, typename Pr::T* values, const Z& z) {
+  using T = typename Pr::T;
+  T w[N * N], zl[N * N];
+  const tarnStatus st = solveLarge<Pr, N>(src, w, values, LocalZ<T, N>{zl}, N);
+  for (int32_t r = 0; r < N; ++r)
+    for (int32_t c = 0; c < N; ++c) *z.at(r, c) = zl[r * N + c];
+  return st;
 }
 
 }  // namespace tarn::eigsym

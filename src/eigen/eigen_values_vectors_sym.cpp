@@ -11,13 +11,27 @@ namespace tarn::eigen_values_vectors_sym {
 
 using namespace eigsym;
 
+template <class Pr, int N, class A, class Z>
+tarnStatus vectorsLoop(const A& src, typename Pr::T* scratch, const Z& z, typename Pr::T* values, int32_t n, int32_t count) {
+  using T = typename Pr::T;
+  for (int32_t k = 0; k < count; ++k) {
+    T* v = byteAdd(values, off32(k, n * int32_t(sizeof(T))));
+    const tarnStatus st = N ? vectorsFixed<Pr, N>(src.obj(k), v, z.obj(k)) : vectorsOne<Pr>(src.obj(k), scratch, v, z.obj(k), n);
+    if (st) return st;  // the objects behind the first failure are not touched
+  }
+  return tarnStatusOk;
+}
+
+// Orders 3 to 6 in storage of their own size, the others through the plain path in scratch.
 template <class Pr, class A, class Z>
 tarnStatus vectors(const A& src, typename Pr::T* scratch, const Z& z, typename Pr::T* values, int32_t n, int32_t count) {
-  using T = typename Pr::T;
-  for (int32_t k = 0; k < count; ++k)
-    if (const tarnStatus st = vectorsOne<Pr>(src.obj(k), scratch, byteAdd(values, off32(k, n * int32_t(sizeof(T)))), z.obj(k), n))
-      return st;  // the objects behind the first failure are not touched
-  return tarnStatusOk;
+  switch (n) {
+    case 3: return vectorsLoop<Pr, 3>(src, scratch, z, values, n, count);
+    case 4: return vectorsLoop<Pr, 4>(src, scratch, z, values, n, count);
+    case 5: return vectorsLoop<Pr, 5>(src, scratch, z, values, n, count);
+    case 6: return vectorsLoop<Pr, 6>(src, scratch, z, values, n, count);
+    default: return vectorsLoop<Pr, 0>(src, scratch, z, values, n, count);
+  }
 }
 
 template <Pat P, class T, Layout L>

@@ -1,9 +1,12 @@
 // White box: the lanes that solve several symmetric matrices at once give, object by object,
 // the status and the bits of the plain path, on matrices chosen to reach every branch of the
 // sweeps (both directions, splits inside a rotation loop, skipped updates, sweep limits, NaN,
-// singular products), with failing and succeeding objects side by side in one register.
+// singular products), with failing and succeeding objects side by side in one register. The
+// vectors of orders 3 to 6, computed in storage of their own size, leave values and vectors as
+// the plain path in scratch does, failing objects included.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstring>
 #include <random>
 
@@ -89,6 +92,52 @@ TEST(EigenSymLanes, EveryLaneMatchesThePlainPath) {
   lanesMatchPlain<double, 4>();
   lanesMatchPlain<double, 5>();
   lanesMatchPlain<double, 6>();
+}
+
+// Equal bits, or NaN on both sides: which operand's NaN an operation passes on, and with it the
+// sign, is the compiler's choice wherever it may swap the operands of + and *.
+template <class T>
+bool sameElements(const T* a, const T* b, int n) {
+  for (int i = 0; i < n; ++i)
+    if (std::memcmp(&a[i], &b[i], sizeof(T)) != 0 && !(std::isnan(a[i]) && std::isnan(b[i]))) return false;
+  return true;
+}
+
+template <class Pr, int N>
+void fixedVectorsMatchPlain() {
+  using T = typename Pr::T;
+  std::mt19937 rng(N * 7 + int(sizeof(T)) + Pr::kShiftAtZero);
+  int failures = 0;
+  for (int k = 0; k < 600; ++k) {
+    const std::vector<T> a = matrix<T>(rng, N, k % 6);
+    const StridedObj<const T, true> src{a.data(), int32_t(N * sizeof(T)), int32_t(sizeof(T))};
+    T scratch[N * N], v1[N], v2[N], z1[N * N], z2[N * N];
+    for (int i = 0; i < N; ++i) v1[i] = v2[i] = T(-7);  // what the caller left there
+    for (int i = 0; i < N * N; ++i) z1[i] = z2[i] = T(-9);
+    const StridedObj<T, true> zv1{z1, int32_t(N * sizeof(T)), int32_t(sizeof(T))}, zv2{z2, int32_t(N * sizeof(T)), int32_t(sizeof(T))};
+    const tarnStatus plain = eigsym::vectorsOne<Pr>(src, scratch, v1, zv1, N);
+    const tarnStatus fixed = eigsym::vectorsFixed<Pr, N>(src, v2, zv2);
+    failures += plain != 0;
+    ASSERT_EQ(plain, fixed) << "order " << N << " matrix " << k;
+    ASSERT_TRUE(sameElements(v1, v2, N)) << "order " << N << " matrix " << k;
+    ASSERT_TRUE(sameElements(z1, z2, N * N)) << "order " << N << " matrix " << k;
+  }
+  EXPECT_GT(failures, 0);
+}
+
+template <class Pr>
+void fixedVectorsAllOrders() {
+  fixedVectorsMatchPlain<Pr, 3>();
+  fixedVectorsMatchPlain<Pr, 4>();
+  fixedVectorsMatchPlain<Pr, 5>();
+  fixedVectorsMatchPlain<Pr, 6>();
+}
+
+TEST(EigenSymVectors, FixedOrdersMatchThePlainPath) {
+  fixedVectorsAllOrders<eigsym::Vectors64>();
+  fixedVectorsAllOrders<eigsym::VectorsOne32<false>>();
+  fixedVectorsAllOrders<eigsym::VectorsOne32<true>>();
+  fixedVectorsAllOrders<eigsym::VectorsArr32>();
 }
 
 }  // namespace
