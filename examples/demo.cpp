@@ -91,21 +91,26 @@ bool principalAxes(int threads) {
   // A batch call stops at the first matrix that does not converge within 30 sweeps for one
   // eigenvalue (a few in 100,000 here) and says only that one did. Its first value is written
   // last, so with the first values set to NaN beforehand the unwritten one is the matrix that
-  // failed: it is set aside and the batch resumes behind it.
+  // failed: it is set aside and the call resumes behind it. The batch goes in chunks of 4,000
+  // (each still split among the threads), so a resumed call repeats at most one chunk's work.
+  constexpr int kChunk = 4000;
   std::vector<char> failed(kPatches);
   auto solveAll = [&](bool withVectors) {
     std::fill(failed.begin(), failed.end(), 0);
-    int start = 0, status = tarnStatusOk;
-    while (start < kPatches) {
-      for (int k = start; k < kPatches; ++k) vals[size_t(k) * 3] = std::nanf("");
-      const size_t at = size_t(start);
-      status = withVectors ? tarnEigenValuesVectorsSym_ma_32f(&cov[at * 9], 36, 12, 4, scratch.data(), &vecs[at * 9], 36, 12, 4,
-                                                              &vals[at * 3], 3, kPatches - start)
-                           : tarnEigenValuesSym_ma_32f(&cov[at * 9], 36, 12, 4, scratch.data(), &vals[at * 3], 3, kPatches - start);
-      if (status != tarnStatusNoConvergence) break;
-      while (!std::isnan(vals[size_t(start) * 3])) ++start;
-      failed[size_t(start++)] = 1;
-      status = tarnStatusOk;
+    int status = tarnStatusOk;
+    for (int chunk = 0; chunk < kPatches && status == tarnStatusOk; chunk += kChunk) {
+      const int end = std::min(chunk + kChunk, kPatches);
+      for (int start = chunk; start < end;) {
+        for (int k = start; k < end; ++k) vals[size_t(k) * 3] = std::nanf("");
+        const size_t at = size_t(start);
+        status = withVectors ? tarnEigenValuesVectorsSym_ma_32f(&cov[at * 9], 36, 12, 4, scratch.data(), &vecs[at * 9], 36,
+                                                                12, 4, &vals[at * 3], 3, end - start)
+                             : tarnEigenValuesSym_ma_32f(&cov[at * 9], 36, 12, 4, scratch.data(), &vals[at * 3], 3, end - start);
+        if (status != tarnStatusNoConvergence) break;
+        while (!std::isnan(vals[size_t(start) * 3])) ++start;
+        failed[size_t(start++)] = 1;
+        status = tarnStatusOk;
+      }
     }
     return status;
   };
