@@ -297,6 +297,30 @@ tarnStatus tarnDotProduct_vv_32f_P(const float* const* src1, int32_t src1RoiShif
 tarnStatus tarnDotProduct_vv_64f(const double* src1, int32_t src1ElemStride, const double* src2, int32_t src2ElemStride, double* dst, int32_t len);
 tarnStatus tarnDotProduct_vv_64f_P(const double* const* src1, int32_t src1RoiShift, const double* const* src2, int32_t src2RoiShift, double* dst, int32_t len);
 
+/** All eigenvalues of each symmetric matrix, in descending order: Householder tridiagonalisation, then implicit QL or QR sweeps; scratch holds one widthHeight x widthHeight working matrix. */
+tarnStatus tarnEigenValuesSym_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, float* scratch, float* dst, int32_t widthHeight);
+tarnStatus tarnEigenValuesSym_m_32f_P(const float* const* src, int32_t srcRoiShift, float* scratch, float* dst, int32_t widthHeight);
+tarnStatus tarnEigenValuesSym_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, double* scratch, double* dst, int32_t widthHeight);
+tarnStatus tarnEigenValuesSym_m_64f_P(const double* const* src, int32_t srcRoiShift, double* scratch, double* dst, int32_t widthHeight);
+tarnStatus tarnEigenValuesSym_ma_32f(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, float* scratch, float* dst, int32_t widthHeight, int32_t count);
+tarnStatus tarnEigenValuesSym_ma_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, float* scratch, float* dst, int32_t widthHeight, int32_t count);
+tarnStatus tarnEigenValuesSym_ma_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* scratch, float* dst, int32_t widthHeight, int32_t count);
+tarnStatus tarnEigenValuesSym_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, double* scratch, double* dst, int32_t widthHeight, int32_t count);
+tarnStatus tarnEigenValuesSym_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, double* scratch, double* dst, int32_t widthHeight, int32_t count);
+tarnStatus tarnEigenValuesSym_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* scratch, double* dst, int32_t widthHeight, int32_t count);
+
+/** Eigenvalues of each symmetric matrix in descending order, with the eigenvector of value j in column j of dstVectors; scratch holds one widthHeight x widthHeight working matrix. */
+tarnStatus tarnEigenValuesVectorsSym_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, float* scratch, float* dstVectors, int32_t dstRowStride, int32_t dstElemStride, float* dstValues, int32_t widthHeight);
+tarnStatus tarnEigenValuesVectorsSym_m_32f_P(const float* const* src, int32_t srcRoiShift, float* scratch, float* const* dstVectors, int32_t dstRoiShift, float* dstValues, int32_t widthHeight);
+tarnStatus tarnEigenValuesVectorsSym_m_64f(const double* src, int32_t srcRowStride, int32_t srcElemStride, double* scratch, double* dstVectors, int32_t dstRowStride, int32_t dstElemStride, double* dstValues, int32_t widthHeight);
+tarnStatus tarnEigenValuesVectorsSym_m_64f_P(const double* const* src, int32_t srcRoiShift, double* scratch, double* const* dstVectors, int32_t dstRoiShift, double* dstValues, int32_t widthHeight);
+tarnStatus tarnEigenValuesVectorsSym_ma_32f(const float* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, float* scratch, float* dstVectors, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, float* dstValues, int32_t widthHeight, int32_t count);
+tarnStatus tarnEigenValuesVectorsSym_ma_32f_L(const float* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, float* scratch, float* const* dstVectors, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, float* dstValues, int32_t widthHeight, int32_t count);
+tarnStatus tarnEigenValuesVectorsSym_ma_32f_P(const float* const* src, int32_t srcRoiShift, int32_t srcObjStride, float* scratch, float* const* dstVectors, int32_t dstRoiShift, int32_t dstObjStride, float* dstValues, int32_t widthHeight, int32_t count);
+tarnStatus tarnEigenValuesVectorsSym_ma_64f(const double* src, int32_t srcObjStride, int32_t srcRowStride, int32_t srcElemStride, double* scratch, double* dstVectors, int32_t dstObjStride, int32_t dstRowStride, int32_t dstElemStride, double* dstValues, int32_t widthHeight, int32_t count);
+tarnStatus tarnEigenValuesVectorsSym_ma_64f_L(const double* const* src, int32_t srcRoiShift, int32_t srcRowStride, int32_t srcElemStride, double* scratch, double* const* dstVectors, int32_t dstRoiShift, int32_t dstRowStride, int32_t dstElemStride, double* dstValues, int32_t widthHeight, int32_t count);
+tarnStatus tarnEigenValuesVectorsSym_ma_64f_P(const double* const* src, int32_t srcRoiShift, int32_t srcObjStride, double* scratch, double* const* dstVectors, int32_t dstRoiShift, int32_t dstObjStride, double* dstValues, int32_t widthHeight, int32_t count);
+
 /** Gathers an operand into one dense buffer, row by row; a t operand arrives transposed. */
 tarnStatus tarnExtract_m_32f(const float* src, int32_t srcRowStride, int32_t srcElemStride, float* dst, int32_t width, int32_t height);
 tarnStatus tarnExtract_m_32f_P(const float* const* src, int32_t srcRoiShift, float* dst, int32_t width, int32_t height);

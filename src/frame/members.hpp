@@ -331,6 +331,22 @@ inline constexpr Row kRows[] = {
    "NCZTR", "(widthHeight+2*count)*widthHeight", Thr{1201, 1201, 721, 721, 721}, thr(721, 721, 721)},
   {"CholeskyBackSubst", "mava", "cholesky_back_subst", "src1:op1 src2:op2 dst:vec widthHeight count", "NCZT", "NCZTR",
    "NCZTR", "(widthHeight+2)*widthHeight*count", Thr{2051, 1701, 1701, 1701, 1701}, Thr{1701, 1701, 1701, 1701, 2051}},
+  // Symmetric eigenproblems: sizes before the count, a working matrix per thread on the
+  // parallel path, and a status from every worker. Values go parallel above
+  // widthHeight*(widthHeight+1)*count = 20000 (40000 for contiguous 32f LayoutL), vectors above
+  // widthHeight*(2*widthHeight+1)*count = 1700.
+  {.family = "EigenValuesSym", .pattern = "m", .impl = "eigen_values_sym",
+   .args = "src:op1 scratch:buffer dst:values widthHeight count", .checksS = "NZT", .checksP = "NZR", .canFail = true},
+  {"EigenValuesSym", "ma", "eigen_values_sym", "src:op1 scratch:buffer dst:values widthHeight count",
+   "NZCT", "NZCRT", "NZCRT", "widthHeight*(widthHeight+1)*count", {20001, 20001, 40001, 20001, 20001},
+   thr(20001, 20001, 20001), Rule::None, true, "widthHeight*widthHeight*esize"},
+  {.family = "EigenValuesVectorsSym", .pattern = "m", .impl = "eigen_values_vectors_sym",
+   .args = "src:op1 scratch:buffer dstVectors/dst:mat dstValues:values widthHeight count", .checksS = "NZT",
+   .checksP = "NZR", .canFail = true},
+  {"EigenValuesVectorsSym", "ma", "eigen_values_vectors_sym",
+   "src:op1 scratch:buffer dstVectors/dst:mat dstValues:values widthHeight count", "NZCT", "NZCRT", "NZCRT",
+   "widthHeight*(2*widthHeight+1)*count", thr(1701, 1701, 1701), thr(1701, 1701, 1701), Rule::None, true,
+   "widthHeight*widthHeight*esize"},
 };
 
 inline constexpr FamilyDoc kDocs[] = {
@@ -397,6 +413,8 @@ inline constexpr FamilyDoc kDocs[] = {
   {"LUBackSubst", "Solves A x = b from the factors and pivot of LUDecomp: b is read through pivot, x is written by column."},
   {"CholeskyDecomp", "Cholesky factorisation A = L L^T of the lower triangle of src: dst holds L below the diagonal and 1/L(i,i) on it; the upper triangle is neither read nor written."},
   {"CholeskyBackSubst", "Solves A x = b from the factor of CholeskyDecomp (reciprocals on its diagonal), with multiplications and subtractions only."},
+  {"EigenValuesSym", "All eigenvalues of each symmetric matrix, in descending order: Householder tridiagonalisation, then implicit QL or QR sweeps; scratch holds one widthHeight x widthHeight working matrix."},
+  {"EigenValuesVectorsSym", "Eigenvalues of each symmetric matrix in descending order, with the eigenvector of value j in column j of dstVectors; scratch holds one widthHeight x widthHeight working matrix."},
 };
 
 inline constexpr Fixed kFixed[] = {

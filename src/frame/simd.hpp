@@ -424,3 +424,42 @@ inline void storeLanes(float* p, __m128 v) { _mm_store_ps(p, v); }
 inline void storeLanes(double* p, __m128d v) { _mm_store_pd(p, v); }
 
 }  // namespace tarn::simd
+
+// ---- Lanes of independent objects ----------------------------------------------------------
+// Each lane of a register holds one object; masks are all-ones lanes. Division and square root
+// are the correctly rounded instructions, so a lane computes exactly what the scalar operation
+// on its object computes.
+namespace tarn::simd {
+
+inline __m128 set1(float v) { return _mm_set1_ps(v); }
+inline __m128d set1(double v) { return _mm_set1_pd(v); }
+template <class T> inline Vec<T> zeros();
+template <> inline __m128 zeros<float>() { return _mm_setzero_ps(); }
+template <> inline __m128d zeros<double>() { return _mm_setzero_pd(); }
+template <class T> inline Vec<T> allOnes();
+template <> inline __m128 allOnes<float>() { return _mm_castsi128_ps(_mm_set1_epi32(-1)); }
+template <> inline __m128d allOnes<double>() { return _mm_castsi128_pd(_mm_set1_epi32(-1)); }
+
+// div, sqrt, abs and select of the lanes are defined with the solving lanes above.
+
+// Comparisons as masks; every one of them is false for NaN.
+inline __m128 gt(__m128 a, __m128 b) { return _mm_cmpgt_ps(a, b); }
+inline __m128d gt(__m128d a, __m128d b) { return _mm_cmpgt_pd(a, b); }
+inline __m128 le(__m128 a, __m128 b) { return _mm_cmple_ps(a, b); }
+inline __m128d le(__m128d a, __m128d b) { return _mm_cmple_pd(a, b); }
+inline __m128 eq(__m128 a, __m128 b) { return _mm_cmpeq_ps(a, b); }
+inline __m128d eq(__m128d a, __m128d b) { return _mm_cmpeq_pd(a, b); }
+
+inline __m128 andMask(__m128 a, __m128 b) { return _mm_and_ps(a, b); }
+inline __m128d andMask(__m128d a, __m128d b) { return _mm_and_pd(a, b); }
+inline __m128 orMask(__m128 a, __m128 b) { return _mm_or_ps(a, b); }
+inline __m128d orMask(__m128d a, __m128d b) { return _mm_or_pd(a, b); }
+// a and not b.
+inline __m128 andNot(__m128 a, __m128 b) { return _mm_andnot_ps(b, a); }
+inline __m128d andNot(__m128d a, __m128d b) { return _mm_andnot_pd(b, a); }
+
+// One bit per lane, lane 0 lowest.
+inline int bits(__m128 m) { return _mm_movemask_ps(m); }
+inline int bits(__m128d m) { return _mm_movemask_pd(m); }
+
+}  // namespace tarn::simd

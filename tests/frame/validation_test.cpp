@@ -208,6 +208,20 @@ TEST(Validation, PinnedOrders) {
       {"tarnCholeskyBackSubst_mva_64f_L", [](Args& a) { a.op[1].roi = -8; a.order = 0; }, tarnStatusBadRoiShift},
       {"tarnCholeskyBackSubst_mva_64f_L", [](Args& a) { a.order = 0; a.count = 0; }, tarnStatusBadSize},
       {"tarnCholeskyBackSubst_mava_32f_L", [](Args& a) { a.op[1].roi = -4; a.order = 0; }, tarnStatusBadSize},
+      // Symmetric eigenproblems: sizes before the count, shifts before strides; scratch is
+      // required even where it is not used; a bad object stride fails with one object too.
+      {"tarnEigenValuesSym_ma_32f", [](Args& a) { a.count = 0; a.order = 0; }, tarnStatusBadSize},
+      {"tarnEigenValuesSym_ma_64f", [](Args& a) { a.count = 0; a.op[0].elem = 4; }, tarnStatusBadCount},
+      {"tarnEigenValuesSym_ma_32f", [](Args& a) { a.count = 1; a.op[0].obj = 2; }, tarnStatusBadStride},
+      {"tarnEigenValuesSym_ma_32f_L", [](Args& a) { a.count = 0; a.op[0].roi = -4; }, tarnStatusBadCount},
+      {"tarnEigenValuesSym_ma_64f_P", [](Args& a) { a.op[0].roi = 4; a.op[0].obj = 4; }, tarnStatusBadRoiShift},
+      {"tarnEigenValuesSym_m_32f", [](Args& a) { a.order = 1; a.op[1].ptr = nullptr; }, tarnStatusNullPointer},
+      {"tarnEigenValuesSym_m_64f_P", [](Args& a) { a.order = 0; a.op[0].roi = 3; }, tarnStatusBadSize},
+      {"tarnEigenValuesVectorsSym_ma_32f_P", [](Args& a) { a.op[2].roi = 2; a.op[2].obj = 2; }, tarnStatusBadRoiShift},
+      {"tarnEigenValuesVectorsSym_ma_64f_L", [](Args& a) { a.op[2].roi = -8; a.op[0].row = 4; }, tarnStatusBadRoiShift},
+      {"tarnEigenValuesVectorsSym_ma_64f", [](Args& a) { a.count = 0; a.order = -1; }, tarnStatusBadSize},
+      {"tarnEigenValuesVectorsSym_m_32f", [](Args& a) { a.op[2].elem = 2; a.order = 0; }, tarnStatusBadSize},
+      {"tarnEigenValuesVectorsSym_m_32f_P", [](Args& a) { a.op[3].ptr = nullptr; a.order = 0; }, tarnStatusNullPointer},
   };
   for (const Case& c : cases) {
     const MemberFn& m = member(c.name);
