@@ -21,6 +21,8 @@
 
 namespace tarn::geig {
 
+namespace lanes = simd::lanes;
+
 // The lanes of R registers of T as one vector V of W lanes.
 template <class T, int R>
 struct LaneRegs;
@@ -28,24 +30,24 @@ template <class T>
 struct LaneRegs<T, 1> {
   static constexpr int W = simd::kLanes<T>;
   using V = simd::Vec<T>;
-  static V load(const T* p) { return simd::lanesLoad(p); }
-  static void store(T* p, V v) { simd::lanesStore(p, v); }
-  static V splat(T x) { return simd::broadcast(x); }
-  static V mask(const bool* f) { return simd::laneMask(f, T(0)); }
-  static V from(const T* v) { return simd::lanesOf(v); }
+  static V load(const T* p) { return lanes::lanesLoad(p); }
+  static void store(T* p, V v) { lanes::lanesStore(p, v); }
+  static V splat(T x) { return lanes::broadcast(x); }
+  static V mask(const bool* f) { return lanes::laneMask(f, T(0)); }
+  static V from(const T* v) { return lanes::lanesOf(v); }
 };
 template <class T>
 struct LaneRegs<T, 2> {
   static constexpr int H = simd::kLanes<T>, W = 2 * H;
-  using V = simd::Pair<simd::Vec<T>>;
-  static V load(const T* p) { return {simd::lanesLoad(p), simd::lanesLoad(p + H)}; }
+  using V = lanes::Pair<simd::Vec<T>>;
+  static V load(const T* p) { return {lanes::lanesLoad(p), lanes::lanesLoad(p + H)}; }
   static void store(T* p, V v) {
-    simd::lanesStore(p, v.lo);
-    simd::lanesStore(p + H, v.hi);
+    lanes::lanesStore(p, v.lo);
+    lanes::lanesStore(p + H, v.hi);
   }
-  static V splat(T x) { return {simd::broadcast(x), simd::broadcast(x)}; }
-  static V mask(const bool* f) { return {simd::laneMask(f, T(0)), simd::laneMask(f + H, T(0))}; }
-  static V from(const T* v) { return {simd::lanesOf(v), simd::lanesOf(v + H)}; }
+  static V splat(T x) { return {lanes::broadcast(x), lanes::broadcast(x)}; }
+  static V mask(const bool* f) { return {lanes::laneMask(f, T(0)), lanes::laneMask(f + H, T(0))}; }
+  static V from(const T* v) { return {lanes::lanesOf(v), lanes::lanesOf(v + H)}; }
 };
 
 template <class T, int N, int R = 2>
@@ -168,58 +170,58 @@ class ValueLanes {
       const bool deep = K + 2 <= N;  // a third row exists (some lane may use it)
       V u1 = start1, u2 = start2, u3 = start3;
       if (K > 1) {
-        u1 = simd::select(F1, start1, get(K, K - 1));
-        u2 = simd::select(F1, start2, get(K + 1, K - 1));
-        if (deep) u3 = simd::select(F1, start3, get(K + 2, K - 1));
+        u1 = lanes::select(F1, start1, get(K, K - 1));
+        u2 = lanes::select(F1, start2, get(K + 1, K - 1));
+        if (deep) u3 = lanes::select(F1, start3, get(K + 2, K - 1));
       }
       // The reflector of (u1, u2[, u3]).
-      const V x2 = simd::mul(u2, u2);
-      const V xs = deep ? simd::select(T3, simd::add(x2, simd::mul(u3, u3)), x2) : x2;
-      const V xnorm = simd::sqrt(xs);
-      const V plain = simd::less(xnorm, tiny);  // norm below tiny: tau = 0, x stays
-      const V ax = simd::abs(u1), ay = simd::abs(xnorm);
-      const V big = simd::larger(ax, ay), small = simd::smaller(ax, ay);
-      const V q = simd::div(simd::mul(small, small), simd::mul(big, big));
-      V mag = simd::select(simd::notLess(small, tiny), simd::mul(big, simd::rootOnePlus(q)), big);
-      mag = simd::select(simd::less(mag, tiny), tinyFloor, mag);
-      V beta = simd::select(simd::less(u1, zero), mag, simd::neg(mag));
-      const V tau = simd::select(plain, zero, simd::div(simd::sub(beta, u1), beta));
-      const V scal = simd::div(one, simd::sub(u1, beta));
-      beta = simd::select(plain, u1, beta);
-      u2 = simd::select(plain, u2, simd::mul(u2, scal));
-      u3 = simd::select(plain, u3, simd::mul(u3, scal));
+      const V x2 = lanes::mul(u2, u2);
+      const V xs = deep ? lanes::select(T3, lanes::add(x2, lanes::mul(u3, u3)), x2) : x2;
+      const V xnorm = lanes::sqrt(xs);
+      const V plain = lanes::less(xnorm, tiny);  // norm below tiny: tau = 0, x stays
+      const V ax = lanes::abs(u1), ay = lanes::abs(xnorm);
+      const V big = lanes::larger(ax, ay), small = lanes::smaller(ax, ay);
+      const V q = lanes::div(lanes::mul(small, small), lanes::mul(big, big));
+      V mag = lanes::select(lanes::notLess(small, tiny), lanes::mul(big, lanes::rootOnePlus(q)), big);
+      mag = lanes::select(lanes::less(mag, tiny), tinyFloor, mag);
+      V beta = lanes::select(lanes::less(u1, zero), mag, lanes::neg(mag));
+      const V tau = lanes::select(plain, zero, lanes::div(lanes::sub(beta, u1), beta));
+      const V scal = lanes::div(one, lanes::sub(u1, beta));
+      beta = lanes::select(plain, u1, beta);
+      u2 = lanes::select(plain, u2, lanes::mul(u2, scal));
+      u3 = lanes::select(plain, u3, lanes::mul(u3, scal));
       if (K > 1) {
         bool fl = false;
         for (int l = 0; l < W; ++l) fl |= flip[l];
         V hk = get(K, K - 1);
-        if (fl) hk = simd::select(Regs::mask(flip), simd::neg(hk), hk);
-        put(K, K - 1, simd::select(LT, beta, hk));
-        put(K + 1, K - 1, simd::select(LT, zero, get(K + 1, K - 1)));
-        if (deep) put(K + 2, K - 1, simd::select(simd::both(LT, T3), zero, get(K + 2, K - 1)));
+        if (fl) hk = lanes::select(Regs::mask(flip), lanes::neg(hk), hk);
+        put(K, K - 1, lanes::select(LT, beta, hk));
+        put(K + 1, K - 1, lanes::select(LT, zero, get(K + 1, K - 1)));
+        if (deep) put(K + 2, K - 1, lanes::select(lanes::both(LT, T3), zero, get(K + 2, K - 1)));
       }
-      const V t1 = tau, t2 = simd::mul(t1, u2), t3 = simd::mul(t1, u3);
+      const V t1 = tau, t2 = lanes::mul(t1, u2), t3 = lanes::mul(t1, u3);
       // From the left on rows K..K+2, columns K..N; from the right on columns K..K+2, all rows.
       for (int j = K; j <= N; ++j) {
         const V h0 = get(K, j), h1 = get(K + 1, j);
-        V sum = simd::add(h0, simd::mul(u2, h1));
+        V sum = lanes::add(h0, lanes::mul(u2, h1));
         if (deep) {
           const V h2 = get(K + 2, j);
-          sum = simd::select(T3, simd::add(sum, simd::mul(u3, h2)), sum);
-          put(K + 2, j, simd::select(T3, simd::sub(h2, simd::mul(sum, t3)), h2));
+          sum = lanes::select(T3, lanes::add(sum, lanes::mul(u3, h2)), sum);
+          put(K + 2, j, lanes::select(T3, lanes::sub(h2, lanes::mul(sum, t3)), h2));
         }
-        put(K, j, simd::select(A, simd::sub(h0, simd::mul(sum, t1)), h0));
-        put(K + 1, j, simd::select(A, simd::sub(h1, simd::mul(sum, t2)), h1));
+        put(K, j, lanes::select(A, lanes::sub(h0, lanes::mul(sum, t1)), h0));
+        put(K + 1, j, lanes::select(A, lanes::sub(h1, lanes::mul(sum, t2)), h1));
       }
       for (int j = 1; j <= N; ++j) {
         const V h0 = get(j, K), h1 = get(j, K + 1);
-        V sum = simd::add(h0, simd::mul(u2, h1));
+        V sum = lanes::add(h0, lanes::mul(u2, h1));
         if (deep) {
           const V h2 = get(j, K + 2);
-          sum = simd::select(T3, simd::add(sum, simd::mul(u3, h2)), sum);
-          put(j, K + 2, simd::select(T3, simd::sub(h2, simd::mul(sum, t3)), h2));
+          sum = lanes::select(T3, lanes::add(sum, lanes::mul(u3, h2)), sum);
+          put(j, K + 2, lanes::select(T3, lanes::sub(h2, lanes::mul(sum, t3)), h2));
         }
-        put(j, K, simd::select(A, simd::sub(h0, simd::mul(sum, t1)), h0));
-        put(j, K + 1, simd::select(A, simd::sub(h1, simd::mul(sum, t2)), h1));
+        put(j, K, lanes::select(A, lanes::sub(h0, lanes::mul(sum, t1)), h0));
+        put(j, K + 1, lanes::select(A, lanes::sub(h1, lanes::mul(sum, t2)), h1));
       }
     }
   }

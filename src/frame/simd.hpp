@@ -172,6 +172,15 @@ namespace tarn::simd {
 // The processor's approximate reciprocal square root of s; its bits differ between processors.
 inline float rsqrtApprox(float s) { return _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(s))); }
 
+}  // namespace tarn::simd
+
+namespace tarn::simd::lanes {
+
+using simd::add;
+using simd::broadcast;
+using simd::mul;
+using simd::sub;
+
 inline __m128 lanesLoad(const float* p) { return _mm_load_ps(p); }
 inline __m128d lanesLoad(const double* p) { return _mm_load_pd(p); }
 inline void lanesStore(float* p, __m128 v) { _mm_store_ps(p, v); }
@@ -251,4 +260,4 @@ TARN_PAIR_OP1(rootOnePlus)
 template <class R> inline Pair<R> select(Pair<R> m, Pair<R> a, Pair<R> b) { return {select(m.lo, a.lo, b.lo), select(m.hi, a.hi, b.hi)}; }
 template <class R> inline bool anyLane(Pair<R> m) { return anyLane(m.lo) || anyLane(m.hi); }
 
-}  // namespace tarn::simd
+}  // namespace tarn::simd::lanes

@@ -42,7 +42,7 @@ class Model {
   int run(const std::vector<T>& src, int n, Mode mode, std::vector<T>& re, std::vector<T>& im) {
     n_ = n;
     mode_ = mode;
-    h_.assign(size_t(n) * n, T(0));
+    h_.resize(size_t(n) * n);
     for (int i = 0; i < n; ++i)
       for (int j = 0; j < n; ++j) h_[size_t(i) * n + j] = src[size_t(i) * n + j];  // H = transpose(src)
     hessenberg();
@@ -85,12 +85,14 @@ class Model {
 
   void hessenberg() {
     const int n = n_;
-    std::vector<T> w(size_t(n) + 1);
+    std::vector<T>& w = w_;
+    w.resize(size_t(n) + 1);
     for (int k = 1; k <= n - 1; ++k) {
       const T alpha = H(k + 1, k);
       T beta = alpha, tau = 0;
       if (k < n - 1) {
-        std::vector<T> x;
+        std::vector<T>& x = x_;
+        x.clear();
         for (int r = k + 2; r <= n; ++r) x.push_back(H(r, k));
         tau = reflect(alpha, x.data(), int(x.size()), beta);
         for (int r = k + 2; r <= n; ++r) H(r, k) = x[size_t(r - k - 2)];
@@ -301,7 +303,7 @@ class Model {
 
   int n_ = 0;
   Mode mode_{};
-  std::vector<T> h_;
+  std::vector<T> h_, w_, x_;  // kept from call to call
 };
 
 }  // namespace tt::geigref
