@@ -39,7 +39,7 @@ struct LaneRegs<T, 1> {
 template <class T>
 struct LaneRegs<T, 2> {
   static constexpr int H = simd::kLanes<T>, W = 2 * H;
-  using V = lanes::Pair<simd::Vec<T>>;
+  using V = lanes::Pair<T>;
   static V load(const T* p) { return {lanes::lanesLoad(p), lanes::lanesLoad(p + H)}; }
   static void store(T* p, V v) {
     lanes::lanesStore(p, v.lo);

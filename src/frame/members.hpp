@@ -281,7 +281,7 @@ inline constexpr FamilyDoc kDocs[] = {
   {"LoadIdentity", "Fills every matrix of the array with ones on the main diagonal and zeros elsewhere."},
   {"Transpose", "Writes the transpose of each matrix: dst has width rows and height columns."},
   {"EigenValues", "Eigenvalues of general real matrices as real and imaginary parts, in diagonal order of the quasi-triangular form: a conjugate pair adjacent with its positive imaginary part first. scratch: tarnEigenValuesGetBufSize bytes."},
-  {"EigenValuesVectors", "Eigenvalues with right (transpose(src) v = lambda v) and left (src v = lambda v) eigenvectors in columns, of unit length; a conjugate pair stores the real part of its vector in column j, the imaginary part in column j+1. scratch: tarnEigenValuesVectorsGetBufSize bytes."},
+  {"EigenValuesVectors", "Eigenvalues with right (transpose(src) v = lambda v) and left (src v = lambda v) eigenvectors in columns, of unit length; a conjugate pair stores the real part of its vector in column j, the imaginary part in column j+1 (a left pair's v solves src v = conj(lambda_j) v). scratch: tarnEigenValuesVectorsGetBufSize bytes."},
   {"EigenValuesVectorsLeft", "Eigenvalues with the eigenvectors v of src v = lambda v in columns, as in EigenValuesVectors."},
   {"EigenValuesVectorsRight", "Eigenvalues with the eigenvectors v of transpose(src) v = lambda v in columns, as in EigenValuesVectors."},
   {"EigenValuesGetBufSize", "Bytes of scratch a general eigenvalue member needs for matrices of order widthHeight: widthHeight*(widthHeight+5)*esize."},

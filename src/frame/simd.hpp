@@ -216,12 +216,8 @@ inline __m128 laneMask(const bool* f, float) {
 inline __m128d laneMask(const bool* f, double) {
   return _mm_castsi128_pd(_mm_set_epi64x(-int64_t(f[1]), -int64_t(f[0])));
 }
-inline bool anyLane(__m128 m) { return _mm_movemask_ps(m) != 0; }
-inline bool anyLane(__m128d m) { return _mm_movemask_pd(m) != 0; }
 inline __m128 lanesOf(const float* v) { return _mm_loadu_ps(v); }
 inline __m128d lanesOf(const double* v) { return _mm_loadu_pd(v); }
-inline __m128 zeros(float) { return _mm_setzero_ps(); }
-inline __m128d zeros(double) { return _mm_setzero_pd(); }
 // sqrt(q + 1): floats widened, the sum and root in double, rounded back once.
 inline __m128 rootOnePlus(__m128 q) {
   const __m128d one = _mm_set1_pd(1.0);
@@ -233,15 +229,14 @@ inline __m128d rootOnePlus(__m128d q) { return _mm_sqrt_pd(_mm_add_pd(q, _mm_set
 
 
 // Two registers of lanes used as one: twice the independent matrices per instruction stream.
-template <class R>
+template <class T>
 struct Pair {
-  R lo, hi;
+  Vec<T> lo, hi;
 };
-template <class R> inline Pair<R> pairOf(R lo, R hi) { return {lo, hi}; }
 #define TARN_PAIR_OP2(name) \
-  template <class R> inline Pair<R> name(Pair<R> a, Pair<R> b) { return {name(a.lo, b.lo), name(a.hi, b.hi)}; }
+  template <class T> inline Pair<T> name(Pair<T> a, Pair<T> b) { return {name(a.lo, b.lo), name(a.hi, b.hi)}; }
 #define TARN_PAIR_OP1(name) \
-  template <class R> inline Pair<R> name(Pair<R> a) { return {name(a.lo), name(a.hi)}; }
+  template <class T> inline Pair<T> name(Pair<T> a) { return {name(a.lo), name(a.hi)}; }
 TARN_PAIR_OP2(add)
 TARN_PAIR_OP2(sub)
 TARN_PAIR_OP2(mul)
@@ -257,7 +252,8 @@ TARN_PAIR_OP1(neg)
 TARN_PAIR_OP1(rootOnePlus)
 #undef TARN_PAIR_OP1
 #undef TARN_PAIR_OP2
-template <class R> inline Pair<R> select(Pair<R> m, Pair<R> a, Pair<R> b) { return {select(m.lo, a.lo, b.lo), select(m.hi, a.hi, b.hi)}; }
-template <class R> inline bool anyLane(Pair<R> m) { return anyLane(m.lo) || anyLane(m.hi); }
+template <class T> inline Pair<T> select(Pair<T> m, Pair<T> a, Pair<T> b) {
+  return {select(m.lo, a.lo, b.lo), select(m.hi, a.hi, b.hi)};
+}
 
 }  // namespace tarn::simd::lanes
