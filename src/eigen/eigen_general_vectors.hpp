@@ -223,7 +223,9 @@ int substitute(Sq<T, N> Tm, Sq<T, N> V, const T* norm, T* x, T* y, T* ar, T* ai)
   // Entries of the system in the direction of the side: T itself for right vectors, its
   // transpose for left ones.
   auto at = [&](int r, int c) -> T { return Right ? Tm(r, c) : Tm(c, r); };
-  // A 2 by 2 diagonal block whose first row is j (in the order the side walks).
+  // A 2 by 2 diagonal block whose first row is j (in the order the side walks). The test takes
+  // the element type's own tiny on every member: the float threshold of the double-precision
+  // left vectors stays in the QR search and the block standardisation, and does not reach here.
   auto blockAt = [&](int j) { return Right ? j > 1 && absv(Tm(j, j - 1)) > tiny : j < n && absv(Tm(j + 1, j)) > tiny; };
 
   int ki = Right ? n : 1;
