@@ -174,6 +174,33 @@ TEST(GeneralEigen, ValuesFollowTheModelInEveryLayoutAndPlacement) {
     }
 }
 
+// Blocks that stall the ordinary double shift: a weighted cyclic shift (its last block needs
+// 22 iterations, so the exceptional shift of iteration 20 decides it), a nilpotent matrix (32:
+// iteration 30 takes the ordinary shift) and one that the relative test keeps for 42
+// iterations (40 ordinary as well). Every member of every family against the model.
+TEST(GeneralEigen, StallingBlocksTakeExceptionalShiftsAtTenAndTwentyOnly) {
+  struct Case {
+    int n;
+    Mat src;
+  };
+  const Case cases[] = {
+      {5, {0, 1, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 3, 2, 0, 0, 0, 0}},
+      {6, {0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0}},
+      {4, {0, 1, 0, 0, 0, 0, -1, 0, 0, 2, 0, 1, 1, 0, 0, 0}},
+  };
+  for (const char* fam : {"EigenValues", "EigenValuesVectorsRight", "EigenValuesVectorsLeft", "EigenValuesVectors"})
+    for (const MemberFn* m : membersOf(fam)) {
+      const Name nm = parseName(m->name);
+      for (const Case& c : cases) {
+        const Out o = run(*m, c.n, {c.src}, style("packed"), 1);
+        std::vector<uint64_t> re, im;
+        EXPECT_EQ(o.status, modelValues({c.src}, c.n, nm, re, im)) << m->name << " order " << c.n;
+        EXPECT_EQ(o.re, re) << m->name << " order " << c.n;
+        EXPECT_EQ(o.im, im) << m->name << " order " << c.n;
+      }
+    }
+}
+
 // Residuals of every vector, unit length, and a pair's largest component real.
 void checkVectors(const Out& o, const std::vector<Mat>& mats, const std::vector<uint64_t>& v, bool left,
                   const std::string& what) {
