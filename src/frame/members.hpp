@@ -144,6 +144,15 @@ inline constexpr std::string_view
     kArgsTranspose = "src:op1 width height dst:mat count",
     kArgsMulMM = "src1:op1 src1Width src1Height src2:op2 src2Width src2Height dst:mat count";
 
+// General eigenproblems.
+inline constexpr std::string_view
+    kArgsGeigValues = "src:op1 dstValuesRe:values dstValuesIm:values widthHeight count scratch:buffer",
+    kArgsGeigOne = "src:op1 dstVectors/dst:mat dstValuesRe:values dstValuesIm:values widthHeight count scratch:buffer",
+    kArgsGeigBoth = "src:op1 dstVectorsRight/dstRight:mat dstVectorsLeft/dstLeft:mat dstValuesRe:values "
+                    "dstValuesIm:values widthHeight count scratch:buffer",
+    kGeigVectorsEst = "widthHeight*(3*widthHeight+1)*count",
+    kGeigScratch = "widthHeight*(3*widthHeight+5)*esize";  // the eigenvector size, in both families
+
 inline constexpr int32_t kElemMatS = 36864, kElemMatG = 18432, kElemMatP = 9216;
 inline constexpr Thr kElemMat{kElemMatS, kElemMatG, kElemMatG, kElemMatG, kElemMatP};
 inline constexpr Thr kElemVec32 = thr(20001, 40001, 20001), kElemVec64 = thr(20001, 20001, 20001);
@@ -347,6 +356,33 @@ inline constexpr Row kRows[] = {
    "src:op1 scratch:buffer dstVectors/dst:mat dstValues:values widthHeight count", "NZCT", "NZCRT", "NZCRT",
    "widthHeight*(2*widthHeight+1)*count", thr(1701, 1701, 1701), thr(1701, 1701, 1701), Rule::None, true,
    "widthHeight*widthHeight*esize"},
+  // General eigenproblems: eigenvalues, and eigenvectors of one or both sides, of real square
+  // matrices. One serial worker per layout (no contiguous path), thresholds on n(n+1)count and
+  // n(3n+1)count; the per-thread scratch is the eigenvector size in both. Arrays in LayoutL
+  // and LayoutP check the source's shift and strides, then the destinations' shifts and strides.
+  {.family = "EigenValues", .pattern = "m", .impl = "eigen_values", .args = kArgsGeigValues,
+   .checksS = "NZT", .checksP = "NZR"},
+  {.family = "EigenValues", .pattern = "ma", .impl = "eigen_values", .args = kArgsGeigValues,
+   .checksS = "NZCT", .checksL = "NZCRT", .checksP = "NZCRT", .est = "widthHeight*(widthHeight+1)*count",
+   .t32 = thr(10001, 10001, 10001), .t64 = thr(10001, 10001, 10001), .canFail = true, .scratch = kGeigScratch},
+  {.family = "EigenValuesVectors", .pattern = "m", .impl = "eigen_vectors_both", .args = kArgsGeigBoth,
+   .checksS = "NZT", .checksP = "NZR"},
+  {.family = "EigenValuesVectors", .pattern = "ma", .impl = "eigen_vectors_both", .args = kArgsGeigBoth,
+   .checksS = "NZCT", .checksL = "NZCRsTsRdTd", .checksP = "NZCRsTsRdTd", .est = kGeigVectorsEst,
+   .t32 = thr(7001, 7001, 7001), .t64 = thr(7001, 7001, 7001), .canFail = true, .scratch = kGeigScratch},
+  {.family = "EigenValuesVectorsLeft", .pattern = "m", .impl = "eigen_vectors_left", .args = kArgsGeigOne,
+   .checksS = "NZT", .checksP = "NZR"},
+  {.family = "EigenValuesVectorsLeft", .pattern = "ma", .impl = "eigen_vectors_left", .args = kArgsGeigOne,
+   .checksS = "NZCT", .checksL = "NZCRsTsRdTd", .checksP = "NZCRsTsRdTd", .est = kGeigVectorsEst,
+   .t32 = thr(7001, 7001, 7001), .t64 = thr(7001, 7001, 7001), .canFail = true, .scratch = kGeigScratch},
+  {.family = "EigenValuesVectorsRight", .pattern = "m", .impl = "eigen_vectors_right", .args = kArgsGeigOne,
+   .checksS = "NZT", .checksP = "NZR"},
+  {.family = "EigenValuesVectorsRight", .pattern = "ma", .impl = "eigen_vectors_right", .args = kArgsGeigOne,
+   .checksS = "NZCT", .checksL = "NZCRsTsRdTd", .checksP = "NZCRsTsRdTd", .est = kGeigVectorsEst,
+   .t32 = thr(7001, 7001, 7001), .t64 = thr(7001, 7001, 7001), .canFail = true, .scratch = kGeigScratch},
+  // Scratch sizes of the general eigenproblems: one member per type, named by the type alone.
+  {.family = "EigenValuesGetBufSize", .impl = "eigen_buf_size_values", .args = "widthHeight bufSize:size", .checksS = "NZ"},
+  {.family = "EigenValuesVectorsGetBufSize", .impl = "eigen_buf_size_vectors", .args = "widthHeight bufSize:size", .checksS = "NZ"},
 };
 
 inline constexpr FamilyDoc kDocs[] = {
@@ -415,6 +451,12 @@ inline constexpr FamilyDoc kDocs[] = {
   {"CholeskyBackSubst", "Solves A x = b from the factor of CholeskyDecomp (reciprocals on its diagonal), with multiplications and subtractions only."},
   {"EigenValuesSym", "All eigenvalues of each symmetric matrix, in descending order: Householder tridiagonalisation, then implicit QL or QR sweeps; scratch holds one widthHeight x widthHeight working matrix."},
   {"EigenValuesVectorsSym", "Eigenvalues of each symmetric matrix in descending order, with the eigenvector of value j in column j of dstVectors; scratch holds one widthHeight x widthHeight working matrix."},
+  {"EigenValues", "Eigenvalues of general real matrices as real and imaginary parts, in diagonal order of the quasi-triangular form: a conjugate pair adjacent with its positive imaginary part first. scratch: tarnEigenValuesGetBufSize bytes."},
+  {"EigenValuesVectors", "Eigenvalues with right (transpose(src) v = lambda v) and left (src v = lambda v) eigenvectors in columns, of unit length; a conjugate pair stores the real part of its vector in column j, the imaginary part in column j+1 (a left pair's v solves src v = conj(lambda_j) v). scratch: tarnEigenValuesVectorsGetBufSize bytes."},
+  {"EigenValuesVectorsLeft", "Eigenvalues with the eigenvectors v of src v = lambda v in columns, as in EigenValuesVectors."},
+  {"EigenValuesVectorsRight", "Eigenvalues with the eigenvectors v of transpose(src) v = lambda v in columns, as in EigenValuesVectors."},
+  {"EigenValuesGetBufSize", "Bytes of scratch a general eigenvalue member needs for matrices of order widthHeight: widthHeight*(widthHeight+5)*esize."},
+  {"EigenValuesVectorsGetBufSize", "Bytes of scratch a general eigenvector member needs for matrices of order widthHeight: widthHeight*(3*widthHeight+5)*esize."},
 };
 
 inline constexpr Fixed kFixed[] = {

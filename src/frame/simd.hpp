@@ -463,3 +463,97 @@ inline int bits(__m128 m) { return _mm_movemask_ps(m); }
 inline int bits(__m128d m) { return _mm_movemask_pd(m); }
 
 }  // namespace tarn::simd
+
+// ---- General eigenproblems ------------------------------------------------------------------
+// Independent matrices in the lanes of one register: every lane operation below rounds exactly
+// as the scalar operation on that lane's values, and selections move bits unchanged.
+namespace tarn::simd {
+
+// The processor's approximate reciprocal square root of s; its bits differ between processors.
+inline float rsqrtApprox(float s) { return _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(s))); }
+
+}  // namespace tarn::simd
+
+namespace tarn::simd::lanes {
+
+using simd::add;
+using simd::broadcast;
+using simd::mul;
+using simd::sub;
+
+inline __m128 lanesLoad(const float* p) { return _mm_load_ps(p); }
+inline __m128d lanesLoad(const double* p) { return _mm_load_pd(p); }
+inline void lanesStore(float* p, __m128 v) { _mm_store_ps(p, v); }
+inline void lanesStore(double* p, __m128d v) { _mm_store_pd(p, v); }
+inline __m128 div(__m128 a, __m128 b) { return _mm_div_ps(a, b); }
+inline __m128d div(__m128d a, __m128d b) { return _mm_div_pd(a, b); }
+inline __m128 sqrt(__m128 a) { return _mm_sqrt_ps(a); }
+inline __m128d sqrt(__m128d a) { return _mm_sqrt_pd(a); }
+// a > b ? a : b and a < b ? a : b, lane by lane (the second operand where unordered).
+inline __m128 larger(__m128 a, __m128 b) { return _mm_max_ps(a, b); }
+inline __m128d larger(__m128d a, __m128d b) { return _mm_max_pd(a, b); }
+inline __m128 smaller(__m128 a, __m128 b) { return _mm_min_ps(a, b); }
+inline __m128d smaller(__m128d a, __m128d b) { return _mm_min_pd(a, b); }
+// Sign bit cleared, or flipped.
+inline __m128 abs(__m128 a) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), a); }
+inline __m128d abs(__m128d a) { return _mm_andnot_pd(_mm_set1_pd(-0.0), a); }
+inline __m128 neg(__m128 a) { return _mm_xor_ps(_mm_set1_ps(-0.0f), a); }
+inline __m128d neg(__m128d a) { return _mm_xor_pd(_mm_set1_pd(-0.0), a); }
+// All-ones lanes where a < b, or a >= b (false where unordered).
+inline __m128 less(__m128 a, __m128 b) { return _mm_cmplt_ps(a, b); }
+inline __m128d less(__m128d a, __m128d b) { return _mm_cmplt_pd(a, b); }
+inline __m128 notLess(__m128 a, __m128 b) { return _mm_cmpge_ps(a, b); }
+inline __m128d notLess(__m128d a, __m128d b) { return _mm_cmpge_pd(a, b); }
+// m ? a : b, lane by lane.
+inline __m128 select(__m128 m, __m128 a, __m128 b) { return _mm_or_ps(_mm_and_ps(m, a), _mm_andnot_ps(m, b)); }
+inline __m128d select(__m128d m, __m128d a, __m128d b) { return _mm_or_pd(_mm_and_pd(m, a), _mm_andnot_pd(m, b)); }
+inline __m128 both(__m128 a, __m128 b) { return _mm_and_ps(a, b); }
+inline __m128d both(__m128d a, __m128d b) { return _mm_and_pd(a, b); }
+// A mask from one flag per lane.
+inline __m128 laneMask(const bool* f, float) {
+  return _mm_castsi128_ps(_mm_set_epi32(-int(f[3]), -int(f[2]), -int(f[1]), -int(f[0])));
+}
+inline __m128d laneMask(const bool* f, double) {
+  return _mm_castsi128_pd(_mm_set_epi64x(-int64_t(f[1]), -int64_t(f[0])));
+}
+inline __m128 lanesOf(const float* v) { return _mm_loadu_ps(v); }
+inline __m128d lanesOf(const double* v) { return _mm_loadu_pd(v); }
+// sqrt(q + 1): floats widened, the sum and root in double, rounded back once.
+inline __m128 rootOnePlus(__m128 q) {
+  const __m128d one = _mm_set1_pd(1.0);
+  const __m128d lo = _mm_sqrt_pd(_mm_add_pd(_mm_cvtps_pd(q), one));
+  const __m128d hi = _mm_sqrt_pd(_mm_add_pd(_mm_cvtps_pd(_mm_movehl_ps(q, q)), one));
+  return _mm_movelh_ps(_mm_cvtpd_ps(lo), _mm_cvtpd_ps(hi));
+}
+inline __m128d rootOnePlus(__m128d q) { return _mm_sqrt_pd(_mm_add_pd(q, _mm_set1_pd(1.0))); }
+
+
+// Two registers of lanes used as one: twice the independent matrices per instruction stream.
+template <class T>
+struct Pair {
+  Vec<T> lo, hi;
+};
+#define TARN_PAIR_OP2(name) \
+  template <class T> inline Pair<T> name(Pair<T> a, Pair<T> b) { return {name(a.lo, b.lo), name(a.hi, b.hi)}; }
+#define TARN_PAIR_OP1(name) \
+  template <class T> inline Pair<T> name(Pair<T> a) { return {name(a.lo), name(a.hi)}; }
+TARN_PAIR_OP2(add)
+TARN_PAIR_OP2(sub)
+TARN_PAIR_OP2(mul)
+TARN_PAIR_OP2(div)
+TARN_PAIR_OP2(larger)
+TARN_PAIR_OP2(smaller)
+TARN_PAIR_OP2(less)
+TARN_PAIR_OP2(notLess)
+TARN_PAIR_OP2(both)
+TARN_PAIR_OP1(sqrt)
+TARN_PAIR_OP1(abs)
+TARN_PAIR_OP1(neg)
+TARN_PAIR_OP1(rootOnePlus)
+#undef TARN_PAIR_OP1
+#undef TARN_PAIR_OP2
+template <class T> inline Pair<T> select(Pair<T> m, Pair<T> a, Pair<T> b) {
+  return {select(m.lo, a.lo, b.lo), select(m.hi, a.hi, b.hi)};
+}
+
+}  // namespace tarn::simd::lanes

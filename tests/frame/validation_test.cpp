@@ -222,6 +222,20 @@ TEST(Validation, PinnedOrders) {
       {"tarnEigenValuesVectorsSym_ma_64f", [](Args& a) { a.count = 0; a.order = -1; }, tarnStatusBadSize},
       {"tarnEigenValuesVectorsSym_m_32f", [](Args& a) { a.op[2].elem = 2; a.order = 0; }, tarnStatusBadSize},
       {"tarnEigenValuesVectorsSym_m_32f_P", [](Args& a) { a.op[3].ptr = nullptr; a.order = 0; }, tarnStatusNullPointer},
+      // General eigenproblems: the size before the count; shift before strides; the eigenvector
+      // arrays check the source's shift and strides, then the destinations' shifts, then their
+      // strides; the size functions the pointer before the size.
+      {"tarnEigenValues_ma_32f", [](Args& a) { a.count = 0; a.order = 0; }, tarnStatusBadSize},
+      {"tarnEigenValues_ma_32f", [](Args& a) { a.count = 1; a.op[0].obj = 0; }, tarnStatusBadStride},
+      {"tarnEigenValues_ma_64f_P", [](Args& a) { a.op[0].roi = -8; a.op[0].obj = 4; }, tarnStatusBadRoiShift},
+      {"tarnEigenValuesVectorsRight_ma_32f_L", [](Args& a) { a.op[0].elem = 2; a.op[1].roi = 2; }, tarnStatusBadStride},
+      {"tarnEigenValuesVectorsRight_ma_32f_L", [](Args& a) { a.op[0].roi = 2; a.op[0].elem = 2; }, tarnStatusBadRoiShift},
+      {"tarnEigenValuesVectorsLeft_ma_64f_P", [](Args& a) { a.op[0].obj = 4; a.op[1].roi = -8; }, tarnStatusBadStride},
+      {"tarnEigenValuesVectors_ma_64f_P", [](Args& a) { a.op[1].obj = 4; a.op[2].roi = 4; }, tarnStatusBadRoiShift},
+      {"tarnEigenValuesVectors_ma_32f_L", [](Args& a) { a.op[1].row = 0; a.op[2].roi = -4; }, tarnStatusBadRoiShift},
+      {"tarnEigenValuesVectors_m_32f_P", [](Args& a) { a.op[2].roi = 2; a.order = 0; }, tarnStatusBadSize},
+      {"tarnEigenValuesVectorsLeft_m_64f", [](Args& a) { a.op[1].elem = 4; a.order = 0; }, tarnStatusBadSize},
+      {"tarnEigenValuesVectorsGetBufSize_32f", [](Args& a) { a.op[0].ptr = nullptr; a.order = 0; }, tarnStatusNullPointer},
   };
   for (const Case& c : cases) {
     const MemberFn& m = member(c.name);
