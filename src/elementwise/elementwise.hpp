@@ -73,10 +73,10 @@ void plainBody(const Op& op, const D& d, const A& a, const B& b, int32_t count, 
     for (int32_t r = 0; r < h; ++r) {
       int32_t c = 0;
       for (; c + 1 < w; c += 2) {
-        *dv.at(r, c) = op(*av.at(r, c), *bv.at(r, c));
-        *dv.at(r, c + 1) = op(*av.at(r, c + 1), *bv.at(r, c + 1));
+        storeElem(dv.at(r, c), op(loadElem(av.at(r, c)), loadElem(bv.at(r, c))));
+        storeElem(dv.at(r, c + 1), op(loadElem(av.at(r, c + 1)), loadElem(bv.at(r, c + 1))));
       }
-      if (c < w) *dv.at(r, c) = op(*av.at(r, c), *bv.at(r, c));
+      if (c < w) storeElem(dv.at(r, c), op(loadElem(av.at(r, c)), loadElem(bv.at(r, c))));
     }
   }
 }
@@ -97,7 +97,7 @@ class RowReader {
 
  public:
   explicit RowReader(const A& a) : a_(a) {
-    if constexpr (kShared && kScalar) pre_[0] = simd::broadcastRow<W>(T(*a_.obj(0).at(0, 0)));
+    if constexpr (kShared && kScalar) pre_[0] = simd::broadcastRow<W>(T(loadElem(a_.obj(0).at(0, 0))));
     else if constexpr (kShared)
       for (int r = 0; r < H; ++r) pre_[r] = simd::loadRow<W, false>(a_.obj(0).rowPtr(r));
   }
@@ -111,7 +111,7 @@ class RowReader {
   R row(const O& o, int r) const {
     if constexpr (kShared && kScalar) return pre_[0];
     else if constexpr (kShared) return pre_[r];
-    else if constexpr (kScalar) return simd::broadcastRow<W>(T(*o.at(0, 0)));
+    else if constexpr (kScalar) return simd::broadcastRow<W>(T(loadElem(o.at(0, 0))));
     else return simd::loadRow<W, Al>(o.rowPtr(r));
   }
 };
@@ -232,7 +232,7 @@ class DenseReader {
       const auto o = a.obj(0);
       for (int g = 0; g < Dn::kGroup; ++g)
         for (int r = 0; r < H; ++r)
-          for (int c = 0; c < W; ++c) rep[(g * H + r) * W + c] = *o.at(r, c);
+          for (int c = 0; c < W; ++c) rep[(g * H + r) * W + c] = loadElem(o.at(r, c));
       for (int k = 0; k < Dn::kRegs; ++k) pre_[k] = simd::load<kL, true>(rep + k * kL);
     }
   }
@@ -284,7 +284,7 @@ class StreamReader {
   explicit StreamReader(const A& a) {
     const auto o = a.obj(0);
     for (int e = 0; e < kN; ++e) {
-      if constexpr (kShared) pre_[e] = simd::broadcast(T(*o.at(e / W, e % W)));
+      if constexpr (kShared) pre_[e] = simd::broadcast(T(loadElem(o.at(e / W, e % W))));
       else base_[e] = o.at(e / W, e % W);
     }
   }
@@ -405,7 +405,7 @@ void worker(const Op& op, const D& d, const A& a, const B& b, int32_t count, int
     T* pd = d.obj(0).rowPtr(0);
     const int32_t bytes = w * int32_t(sizeof(T));
     auto source = [&](const auto& acc) {
-      if constexpr (ScalarAccess<std::decay_t<decltype(acc)>>::value) return Broadcast<T>{*acc.obj(0).at(0, 0)};
+      if constexpr (ScalarAccess<std::decay_t<decltype(acc)>>::value) return Broadcast<T>{loadElem(acc.obj(0).at(0, 0))};
       else return acc.obj(0).rowPtr(0);
     };
     auto clashes = [&](const auto& s) {

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 #include <cstdint>
 #include <type_traits>
 
@@ -21,6 +22,20 @@ template <class T>
 inline T* byteAdd(T* p, std::ptrdiff_t bytes) {
   using B = std::conditional_t<std::is_const_v<T>, const std::byte, std::byte>;
   return reinterpret_cast<T*>(reinterpret_cast<B*>(p) + bytes);
+}
+
+// An element read or written at any byte address a member lets through (a shift that is not a
+// multiple of the element size in the members that take any shift, a caller's pointer off its
+// element alignment): through memcpy, which compiles to the same single move.
+template <class T>
+inline std::remove_const_t<T> loadElem(T* p) {
+  std::remove_const_t<T> v;
+  std::memcpy(&v, p, sizeof v);
+  return v;
+}
+template <class T>
+inline void storeElem(T* p, T v) {
+  std::memcpy(p, &v, sizeof v);
 }
 
 // ---- Object views ----------------------------------------------------------------------

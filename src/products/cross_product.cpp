@@ -15,7 +15,7 @@ struct Vec3 {
 
 template <class T, class V>
 Vec3<T> read(const V& v) {
-  return {*v.at(0, 0), *v.at(0, 1), *v.at(0, 2)};
+  return {loadElem(v.at(0, 0)), loadElem(v.at(0, 1)), loadElem(v.at(0, 2))};
 }
 
 template <class T, class V>
@@ -23,9 +23,9 @@ void write(const V& v, const Vec3<T>& a, const Vec3<T>& b) {
   const T x = a.y * b.z - a.z * b.y;
   const T y = a.z * b.x - a.x * b.z;
   const T z = a.x * b.y - a.y * b.x;
-  *v.at(0, 0) = x;
-  *v.at(0, 1) = y;
-  *v.at(0, 2) = z;
+  storeElem(v.at(0, 0), x);
+  storeElem(v.at(0, 1), y);
+  storeElem(v.at(0, 2), z);
 }
 
 // Float vectors with unit element stride: each vector is loaded as (x, 0, y, z), twelve bytes

@@ -58,7 +58,7 @@ inline void blocksThenSingles(__m128& acc, int32_t i, int32_t n, const At& at, c
     acc = simd::add(acc, simd::mul(y, y));
   }
   for (; i < n; ++i) {
-    const float e = *at(i);
+    const float e = loadElem(at(i));
     acc = simd::addLane0(acc, e * e);
   }
 }
@@ -77,7 +77,7 @@ float general32(const V& v, int32_t w, int32_t h) {
     auto at = [&](int32_t i) { return byteAdd(v.p, off32(i, v.elem)); };
     if constexpr (Contig) {
       int32_t i = 0;
-      for (; i < n && !simd::aligned16(v.p + i); ++i) acc = simd::addLane0(acc, v.p[i] * v.p[i]);
+      for (; i < n && !simd::aligned16(v.p + i); ++i) acc = simd::addLane0(acc, loadElem(v.p + i) * loadElem(v.p + i));
       blocksThenSingles(acc, i, n, at, [&](int32_t k) { return simd::load<4, true>(v.p + k); });
     } else {
       blocksThenSingles(acc, 0, n, at, gathered(at));
@@ -96,7 +96,7 @@ float general32(const V& v, int32_t w, int32_t h) {
 template <Layout L, bool Contig, class V>
 float frob32(const V& v, int32_t w, int32_t h) {
   auto sq = [&](int32_t r, int32_t c) {
-    const float e = *v.at(r, c);
+    const float e = loadElem(v.at(r, c));
     return e * e;
   };
   if (w == h) {
@@ -127,7 +127,7 @@ double frob64(const V& v, int32_t w, int32_t h) {
       s = s + simd::high(t);
     }
     for (; k < w; ++k) {
-      const double e = *v.at(r, k);
+      const double e = loadElem(v.at(r, k));
       s = s + e * e;
     }
   }

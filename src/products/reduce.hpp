@@ -72,7 +72,7 @@ T dotRule(const T* x, const T* y, int32_t n) {
   constexpr int32_t kE = int32_t(sizeof(T));
   const int32_t mis = int32_t(reinterpret_cast<uintptr_t>(y) & 15);
   const int32_t peel = mis ? (16 - mis) / kE : 0;
-  auto prod = [&](int32_t k) { return T(x[k] * y[k]); };
+  auto prod = [&](int32_t k) { return T(loadElem(x + k) * loadElem(y + k)); };
   if (n < 8 || mis % kE != 0 || n < peel + 8) return running<T>(n, prod);
   T s = T(0);
   int32_t k = 0;
@@ -109,7 +109,7 @@ auto readOnce(const A& a) {
   if constexpr (IsOne<A>::value) {
     OneValues<T, N> o;
     const auto v = a.obj(0);
-    for (int k = 0; k < N; ++k) o.v[k] = *v.at(0, k);
+    for (int k = 0; k < N; ++k) o.v[k] = loadElem(v.at(0, k));
     o.sw = N;
     return o;
   } else {
@@ -120,7 +120,7 @@ auto readOnce(const A& a) {
 // Element k of a vector view.
 template <class V>
 inline auto elem(const V& v, int32_t k) {
-  return *v.at(0, k);
+  return loadElem(v.at(0, k));
 }
 
 // ---- Four objects in lanes --------------------------------------------------------------------

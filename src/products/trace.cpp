@@ -14,8 +14,8 @@ void unrolled(const A& a, T* d, int32_t count) {
   const auto xa = cached<N * N>(a);
   for (int32_t n = 0; n < count; ++n) {
     const auto v = xa.obj(n);
-    T s = *v.at(0, 0);
-    for (int k = 1; k < N; ++k) s = s + *v.at(k, k);
+    T s = loadElem(v.at(0, 0));
+    for (int k = 1; k < N; ++k) s = s + loadElem(v.at(k, k));
     d[n] = s;
   }
 }
@@ -28,13 +28,13 @@ void stepwise(const A& a, T* d, int32_t count, int32_t order) {
     T s = T(0);
     int32_t k = 0;
     for (; k + 1 < order; k += 2) {
-      s = s + *v.at(k, k);
+      s = s + loadElem(v.at(k, k));
       *out = s;
-      s = s + *v.at(k + 1, k + 1);
+      s = s + loadElem(v.at(k + 1, k + 1));
       *out = s;
     }
     if (k < order) {
-      s = s + *v.at(k, k);
+      s = s + loadElem(v.at(k, k));
       *out = s;
     }
   }
