@@ -574,3 +574,27 @@ constexpr const Override* overrideOf(std::string_view name) {
 }
 
 }  // namespace tarn
+
+namespace tarn {
+
+// ---- Shapes for the typed bindings -------------------------------------------------------------
+// The C++ header and the Python module give every pointer argument a shape over the size
+// arguments: a block with sizes of its own has them; a matrix has widthHeight x widthHeight, or
+// height x width as the operation sees it; a vector has len, widthHeight or height elements; a
+// product's result has the rows of its left factor and the columns of its right one. A family
+// whose blocks are shaped otherwise names them here, by pointer name: `name=rows,cols` for a
+// matrix, `name=len` for a vector, each an expression over the sizes.
+struct BindShape {
+  std::string_view family, shapes;
+};
+
+// clang-format off
+inline constexpr BindShape kBindShapes[] = {
+  {"Transpose", "dst=width,height"},
+  {"CrossProduct", "src1=3 src2=3 dst=3"},
+  {"QRBackSubst", "src2=height dst=width"},
+  {"AffineTransform3DH", "src1=4,4 src2=3 dst=3"},
+};
+// clang-format on
+
+}  // namespace tarn

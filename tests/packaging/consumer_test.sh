@@ -24,7 +24,7 @@ prefix=$work/prefix
 
 # The shared object with its soname links, the headers, the CMake package, tarn.pc: nothing else.
 extra=$(cd "$prefix" && find . ! -type d | sed 's|^\./||' | grep -Ev \
-  "^(include/[^/]+\.h(pp)?|$libdir/libtarn\.so(\.[0-9]+)*|$libdir/cmake/tarn/tarn[A-Za-z-]*\.cmake|$libdir/pkgconfig/tarn\.pc)$" || true)
+  "^(include/[^/]+\.h(pp)?|$libdir/libtarn\.so(\.[0-9]+)*|$libdir/cmake/tarn/tarn[A-Za-z-]*\.cmake|$libdir/pkgconfig/tarn\.pc|lib[^/]*/python3[^/]*/site-packages/tarn/[^/]+\.(py|so))$" || true)
 [ -z "$extra" ] || fail "installed beyond the library's files: $extra"
 lib=$prefix/$libdir/libtarn.so
 [ -L "$lib" ] && [ -L "$lib.$major" ] && [ -f "$lib.$version" ] && [ ! -L "$lib.$version" ] ||

@@ -40,7 +40,9 @@ void CallFixture::fillSources(std::mt19937& rng, bool specials) {
     }
 }
 
-tarnStatus CallFixture::run(int threads) {
+tarnStatus CallFixture::run(int threads) { return run(threads, m_.call); }
+
+tarnStatus CallFixture::run(int threads, const std::function<tarnStatus(const Args&)>& call) {
   snap_.clear();
   was_.clear();
   for (auto& o : ops_) {
@@ -48,7 +50,7 @@ tarnStatus CallFixture::run(int threads) {
     was_.push_back(std::make_unique<Operand>(*o));
   }
   omp_set_num_threads(threads);
-  const tarnStatus s = m_.call(args);
+  const tarnStatus s = call(args);
   omp_set_num_threads(1);
   return s;
 }

@@ -50,6 +50,8 @@ class CallFixture {
   // Runs the member on `threads` threads (then back to 1) and returns its status. The sources as
   // they were before the call stay readable through before(i).
   tarnStatus run(int threads);
+  // The same, with the member reached some other way than its export (a binding over it).
+  tarnStatus run(int threads, const std::function<tarnStatus(const Args&)>& call);
   const Operand& before(int i) const { return *was_[size_t(i)]; }
 
   // Empty when every source is unchanged (unless `writable`) and every byte that is not an

@@ -8,7 +8,9 @@
 // family), OUTDIR/patterns.inc (the pattern vocabulary), OUTDIR/invoke.inc (one typed call per
 // export, for the tests), OUTDIR/fixed.inc (the fixed-size members' names), OUTDIR/fixed_invoke.inc
 // (a typed call of each fixed-size member, for the tests) and OUTDIR/exports.txt with
-// OUTDIR/exports.map, the linker's list of global symbols.
+// OUTDIR/exports.map, the linker's list of global symbols; and the typed bindings (bindgen.inc):
+// OUTDIR/tarn.hpp, OUTDIR/pymembers.py, OUTDIR/pythunks.inc and the tests' calls through
+// tarn.hpp, OUTDIR/hppcalls.inc.
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
@@ -35,6 +37,9 @@ struct Param {
   std::string ctype;  // C type in the header
   std::string name;
   std::string field;  // where it lives in Call (and in the tests' mirror of it)
+  std::string role;   // the bindings' view of it: ptr obj row elem roi w h, value, size, count
+  int block = -1;     // the pointer argument it belongs to, for block fields
+  int opnum = 0;      // a single constant: its operand number in the pattern
 };
 
 // One pointer argument as the binding describes it to the frame.
@@ -45,6 +50,12 @@ struct Block {
   int has = 0;               // BlkField bits
   std::string slice = "Shared";
   std::string perObj;        // Slice::ByElems: bytes per object, as an expression over the sizes
+  // For the C++ and Python bindings: the slot kind, the operand number of a pattern operand,
+  // the layout the block is described in and whether it holds one object per object of the call.
+  std::string slot;
+  int opnum = 0;
+  Layout lay = Layout::S;
+  bool array = false;
 };
 
 struct Member {
@@ -129,20 +140,35 @@ class Builder {
       const size_t i = size_t(std::atoi(slot.c_str() + 2));
       if (i < 1 || i > ops.size()) fail(m_.name + ": no operand " + slot);
       const Opnd o = ops[i - 1];
-      if (o.kind == 'c' && !o.array) return scalar(name);
-      return block(name, prefix, o.kind, o.array, m_.lay, false);
+      if (o.kind == 'c' && !o.array) return scalar(name, int(i));
+      block(name, prefix, o.kind, o.array, m_.lay, false);
+      m_.blocks.back().slot = "op";
+      m_.blocks.back().opnum = int(i);
+      return;
     }
-    if (slot == "mat" || slot == "vec")
-      return block(name, prefix, slot == "mat" ? 'm' : 'v', anyArray, m_.row->forms == Forms::CopyPairs ? m_.lay2 : m_.lay, true);
-    if (slot == "vsrc") return block(name, prefix, 'v', anyArray, m_.lay, false);
+    if (slot == "mat" || slot == "vec") {
+      block(name, prefix, slot == "mat" ? 'm' : 'v', anyArray, m_.row->forms == Forms::CopyPairs ? m_.lay2 : m_.lay, true);
+      m_.blocks.back().slot = slot;
+      return;
+    }
+    if (slot == "vsrc") {
+      block(name, prefix, 'v', anyArray, m_.lay, false);
+      m_.blocks.back().slot = slot;
+      return;
+    }
     if (slot == "value") return scalar(name);
     const bool firstIsArray = !ops.empty() && ops[0].array;
+    plainSlot_ = slot;
     if (slot == "scalar") return plain(name, t_ + "*", true, anyArray ? esize_ : "");
     if (slot == "values") return plain(name, t_ + "*", true, anyArray ? esize_ + "*widthHeight" : "");
     if (slot == "pivot") return plain(name, "int32_t*", true, firstIsArray ? "4*widthHeight" : "");
     if (slot == "pivotin") return plain(name, "const int32_t*", false, firstIsArray ? "4*widthHeight" : "");
     if (slot == "buffer") return plain(name, t_ + "*", true, "", "Scratch");
-    if (slot == "plain") return plain(name, t_ + "*", true, "");
+    if (slot == "plain") {  // never sliced, but one object's elements per object of the call
+      plain(name, t_ + "*", true, "");
+      m_.blocks.back().array = anyArray;
+      return;
+    }
     if (slot == "size") return plain(name, "int32_t*", true, "");
     fail(m_.name + ": unknown slot " + tok);
   }
@@ -160,8 +186,10 @@ class Builder {
     const int i = int(m_.blocks.size());
     const std::string op = "op[" + std::to_string(i) + "]";
     const std::string cq = write ? "" : "const ";
+    b.lay = lay;
+    b.array = array;
     auto add = [&](const std::string& ctype, const std::string& pname, const char* field, int bit) {
-      m_.params.push_back({ctype, pname, op + "." + field});
+      m_.params.push_back({ctype, pname, op + "." + field, field, i});
       b.has |= bit;
     };
     if (kind == 'c') {  // an array of constants; a single constant is passed by value
@@ -196,16 +224,18 @@ class Builder {
   void plain(const std::string& name, const std::string& ctype, bool write, const std::string& perObj,
              const char* slice = nullptr) {
     const int i = int(m_.blocks.size());
-    m_.params.push_back({ctype, name, "op[" + std::to_string(i) + "].ptr"});
+    m_.params.push_back({ctype, name, "op[" + std::to_string(i) + "].ptr", "ptr", i});
     Block b{name, name, 0, write};
     b.perObj = perObj;
+    b.slot = plainSlot_;
+    b.array = !perObj.empty();
     b.slice = slice ? slice : perObj.empty() ? "Shared" : "ByElems";
     addBlock(std::move(b));
   }
 
-  void scalar(const std::string& name) {
+  void scalar(const std::string& name, int opnum = 0) {
     if (scalars_ == 2) fail(m_.name + ": more than two scalars");
-    m_.params.push_back({t_, name, "val[" + std::to_string(scalars_++) + "]"});
+    m_.params.push_back({t_, name, "val[" + std::to_string(scalars_++) + "]", "value", -1, opnum});
   }
 
   void size(const std::string& s) {
@@ -217,13 +247,13 @@ class Builder {
     const Global globals[] = {{"width", "width", 1}, {"height", "height", 2}, {"len", "len", 4}, {"widthHeight", "order", 8}};
     if (s == "count") {
       if (!anyArrayIn(m_.row->pattern)) return;  // single-object members have no count
-      m_.params.push_back({"int32_t", "count", "count"});
+      m_.params.push_back({"int32_t", "count", "count", "count"});
       m_.hasCount = true;
       return;
     }
     for (const Global& g : globals)
       if (s == g.name) {
-        m_.params.push_back({"int32_t", s, g.field});
+        m_.params.push_back({"int32_t", s, g.field, "size"});
         m_.sizeMask |= g.bit;
         return;
       }
@@ -231,12 +261,12 @@ class Builder {
       Block& b = m_.blocks[i];
       const std::string op = "op[" + std::to_string(i) + "].";
       if (s == b.prefix + "Width" || s == b.prefix + "Len") {
-        m_.params.push_back({"int32_t", s, op + "w"});
+        m_.params.push_back({"int32_t", s, op + "w", "size", int(i)});
         b.has |= 16;
         return;
       }
       if (s == b.prefix + "Height") {
-        m_.params.push_back({"int32_t", s, op + "h"});
+        m_.params.push_back({"int32_t", s, op + "h", "size", int(i)});
         b.has |= 32;
         return;
       }
@@ -245,7 +275,7 @@ class Builder {
   }
 
   Member& m_;
-  std::string t_, esize_;
+  std::string t_, esize_, plainSlot_;
   int scalars_ = 0;
 };
 
@@ -654,6 +684,8 @@ std::string fixedNames(const std::vector<Member>& ms) {
   return s.str();
 }
 
+#include "bindgen.inc"
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -671,6 +703,12 @@ int main(int argc, char** argv) {
   writeFile(dir + "/invoke.inc", invokers(ms));
   writeFile(dir + "/fixed.inc", fixedNames(ms));
   writeFile(dir + "/fixed_invoke.inc", fixedInvokers(ms));
+  writeFile(dir + "/tarn.hpp", hppHeader(ms,
+#include "hpp_prologue.inc"
+                                         ));
+  writeFile(dir + "/pymembers.py", pyMembers(ms));
+  writeFile(dir + "/pythunks.inc", pyThunks(ms));
+  writeFile(dir + "/hppcalls.inc", hppCalls(ms));
   std::string names;
   for (const auto& m : ms) names += m.name + "\n";
   writeFile(dir + "/exports.txt", names);
