@@ -163,3 +163,48 @@ inline void streamStore(float* p, const float* s) {
 inline void storeFence() { _mm_sfence(); }
 
 }  // namespace tarn::simd
+
+// ---- Matrix-vector products -----------------------------------------------------------------
+// A run of Len elements of a row in one register, the lanes behind it zero. Three floats are
+// a pair and a single on the way in and out, so the element behind the third is never touched.
+namespace tarn::simd {
+
+template <int Len>
+inline __m128 loadPart(const float* p) {
+  if constexpr (Len == 3) return _mm_movelh_ps(load<2, false>(p), _mm_load_ss(p + 2));
+  else return load<Len, false>(p);
+}
+template <int Len>
+inline __m128d loadPart(const double* p) {
+  return load<Len, false>(p);
+}
+template <int Len>
+inline void storePart(float* p, __m128 v) {
+  if constexpr (Len == 3) {
+    store<2, false>(p, v);
+    _mm_store_ss(p + 2, _mm_movehl_ps(v, v));
+  } else {
+    store<Len, false>(p, v);
+  }
+}
+template <int Len>
+inline void storePart(double* p, __m128d v) {
+  store<Len, false>(p, v);
+}
+
+// A scalar in lane 0, +0.0 in the other lanes; all lanes +0.0.
+inline __m128 inLow(float s) { return _mm_set_ss(s); }
+inline __m128d inLow(double s) { return _mm_set_sd(s); }
+template <class T> inline Vec<T> zeros() {
+  if constexpr (kLanes<T> == 4) return _mm_setzero_ps();
+  else return _mm_setzero_pd();
+}
+
+// The sum of the lanes of an accumulator: (l0 + l2) + (l1 + l3), or l0 + l1.
+inline float reduce(__m128 v) {
+  const __m128 h = _mm_add_ps(v, _mm_movehl_ps(v, v));
+  return _mm_cvtss_f32(_mm_add_ss(h, _mm_shuffle_ps(h, h, 1)));
+}
+inline double reduce(__m128d v) { return _mm_cvtsd_f64(_mm_add_sd(v, _mm_unpackhi_pd(v, v))); }
+
+}  // namespace tarn::simd
