@@ -207,4 +207,31 @@ inline float reduce(__m128 v) {
 }
 inline double reduce(__m128d v) { return _mm_cvtsd_f64(_mm_add_sd(v, _mm_unpackhi_pd(v, v))); }
 
+// The float pair at p in both halves (p0 p1 p0 p1): a load, no shuffle.
+inline __m128 dupPair(const float* p) { return _mm_castpd_ps(_mm_loaddup_pd(reinterpret_cast<const double*>(p))); }
+// (a0 + a1, a2 + a3, b0 + b1, b2 + b3).
+inline __m128 hadd(__m128 a, __m128 b) { return _mm_hadd_ps(a, b); }
+// (a0, a1, b0, b1) and (a2, a3, b2, b3), as a pair of doubles moves; (a0 b0 a1 b1), (a2 b2 a3 b3).
+inline __m128 lowHalves(__m128 a, __m128 b) { return _mm_movelh_ps(a, b); }
+inline __m128 highHalves(__m128 a, __m128 b) { return _mm_movehl_ps(b, a); }
+inline __m128 interleaveLow(__m128 a, __m128 b) { return _mm_unpacklo_ps(a, b); }
+inline __m128 interleaveHigh(__m128 a, __m128 b) { return _mm_unpackhi_ps(a, b); }
+
+// Four packed 3-element float objects in three registers (x0 y0 z0 x1 | y1 z1 x2 y2 |
+// z2 x3 y3 z3) and the same as one register per element (x0 x1 x2 x3 | y0 .. | z0 ..).
+inline void unpack3(__m128 r0, __m128 r1, __m128 r2, __m128& x, __m128& y, __m128& z) {
+  const __m128 t0 = _mm_shuffle_ps(r1, r2, _MM_SHUFFLE(2, 1, 3, 2));  // x2 y2 x3 y3
+  const __m128 t1 = _mm_shuffle_ps(r0, r1, _MM_SHUFFLE(1, 0, 2, 1));  // y0 z0 y1 z1
+  x = _mm_shuffle_ps(r0, t0, _MM_SHUFFLE(2, 0, 3, 0));
+  y = _mm_shuffle_ps(t1, t0, _MM_SHUFFLE(3, 1, 2, 0));
+  z = _mm_shuffle_ps(t1, r2, _MM_SHUFFLE(3, 0, 3, 1));
+}
+inline void pack3(__m128 x, __m128 y, __m128 z, __m128& r0, __m128& r1, __m128& r2) {
+  const __m128 lo = _mm_unpacklo_ps(x, y), hi = _mm_unpackhi_ps(x, y);  // x0 y0 x1 y1, x2 y2 x3 y3
+  r0 = _mm_shuffle_ps(lo, _mm_shuffle_ps(z, x, _MM_SHUFFLE(1, 1, 0, 0)), _MM_SHUFFLE(2, 0, 1, 0));
+  r1 = _mm_shuffle_ps(_mm_shuffle_ps(y, z, _MM_SHUFFLE(1, 1, 1, 1)), hi, _MM_SHUFFLE(1, 0, 2, 0));
+  r2 = _mm_shuffle_ps(_mm_shuffle_ps(z, hi, _MM_SHUFFLE(2, 2, 2, 2)), _mm_shuffle_ps(hi, z, _MM_SHUFFLE(3, 3, 3, 3)),
+                      _MM_SHUFFLE(2, 0, 2, 0));
+}
+
 }  // namespace tarn::simd

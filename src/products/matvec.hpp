@@ -74,7 +74,16 @@ template <class A> struct Single : IsOne<A> {};
 template <class T, int N> struct Single<OneCached<T, N>> : std::true_type {};
 template <class A> struct Single<Trans<A>> : Single<A> {};
 
+// The objects a body walks: one when dst is a single object, a number the compiler sees, so no
+// object loop surrounds stores that go to the same address each time.
+template <class D>
+inline int32_t objectsOf(int32_t count) {
+  return Single<D>::value ? 1 : count;
+}
+
 // ---- Fixed sizes ---------------------------------------------------------------------------
+// The bodies take their accessors by value: copies the stores through dst cannot reach, so the
+// bases and strides stay in registers through the object loop.
 
 // A row of N elements as registers: register j holds elements j*lanes on, in order.
 template <class T, int N>
@@ -101,7 +110,8 @@ inline void storeLanes(T* p, const Lanes<T, N>& x) {
 // once, the rows of the result are the lanes, and each object costs N broadcasts and N products
 // per register, summed in order O (plus src3, last).
 template <class T, int N, Order O, bool Gx, class D, class A, class V, class S3>
-void columnsBody(const D& d, const A& a, const V& v, const S3& s3, int32_t count) {
+void columnsBody(const D d, const A a, const V v, const S3 s3, int32_t objects) {
+  const int32_t count = objectsOf<D>(objects);
   constexpr int kL = simd::kLanes<T>, kR = Lanes<T, N>::kRegs;
   Lanes<T, N> col[N];
   const auto m = a.obj(0);
@@ -111,9 +121,9 @@ void columnsBody(const D& d, const A& a, const V& v, const S3& s3, int32_t count
     col[k] = loadLanes<N>(static_cast<const T*>(c));
   }
   for (int32_t n = 0; n < count; ++n) {
-    const T* x = v.obj(n).rowPtr(0);
+    const auto xv = loadLanes<N>(v.obj(n).rowPtr(0));
     simd::Vec<T> b[N];
-    for (int k = 0; k < N; ++k) b[k] = simd::broadcast(x[k]);
+    simd::unroll<N>([&]<int K>() { b[K] = simd::splat<K % kL>(xv.r[K / kL]); });
     Lanes<T, N> s;
     for (int j = 0; j < kR; ++j) {
       simd::Vec<T> p[N];
@@ -128,11 +138,62 @@ void columnsBody(const D& d, const A& a, const V& v, const S3& s3, int32_t count
   }
 }
 
+// Packed batches of 3-element float vectors: four objects are three registers, turned into one
+// register per element, so each row of the matrix costs three products and two sums for four
+// objects, in the order (p0 + p1) + p2 of every kernel of this size, src3 last. Returns the
+// objects done; the rest take columnsBody.
+template <class X> bool packed3(const X&) { return true; }  // single operands, no addend
+template <class E> bool packed3(const ArrS<E, true>& x) { return x.objStride == 12; }
+template <class X> X fromObject(const X& x, int32_t first) {
+  if constexpr (requires { x.from(first); }) return x.from(first);
+  else return x;
+}
+
+template <bool Gx, class D, class A, class V, class S3>
+int32_t dense3Body(const D d, const A a, const V v, const S3 s3, int32_t count) {
+  using F = simd::Vec<float>;
+  F m[3][3], one[3];
+  const auto o = a.obj(0);
+  for (int i = 0; i < 3; ++i)
+    for (int k = 0; k < 3; ++k) m[i][k] = simd::broadcast(*o.at(i, k));
+  constexpr bool kAddendArray = Gx && !IsOne<S3>::value;
+  if constexpr (Gx && !kAddendArray)
+    for (int i = 0; i < 3; ++i) one[i] = simd::broadcast(s3.obj(0).rowPtr(0)[i]);
+  const float* pv = v.obj(0).rowPtr(0);
+  float* pd = d.obj(0).rowPtr(0);
+  const float* ps = nullptr;
+  if constexpr (kAddendArray) ps = s3.obj(0).rowPtr(0);
+  // Object n lies n*12 bytes (a 32-bit product) behind object 0; carried from group to group.
+  const int32_t end = count - count % 4;
+  uint32_t off = 0;
+  for (int32_t n = 0; n < end; n += 4, off += 48) {
+    const std::ptrdiff_t b = int32_t(off);
+    const float* x = byteAdd(pv, b);
+    F e[3], r[3];
+    simd::unpack3(simd::load<4, false>(x), simd::load<4, false>(x + 4), simd::load<4, false>(x + 8), e[0], e[1], e[2]);
+    for (int i = 0; i < 3; ++i)
+      r[i] = simd::add(simd::add(simd::mul(m[i][0], e[0]), simd::mul(m[i][1], e[1])), simd::mul(m[i][2], e[2]));
+    if constexpr (kAddendArray) {
+      const float* y = byteAdd(ps, b);
+      simd::unpack3(simd::load<4, false>(y), simd::load<4, false>(y + 4), simd::load<4, false>(y + 8), e[0], e[1], e[2]);
+      for (int i = 0; i < 3; ++i) r[i] = simd::add(r[i], e[i]);
+    } else if constexpr (Gx) {
+      for (int i = 0; i < 3; ++i) r[i] = simd::add(r[i], one[i]);
+    }
+    F out[3];
+    simd::pack3(r[0], r[1], r[2], out[0], out[1], out[2]);
+    float* y = byteAdd(pd, b);
+    for (int j = 0; j < 3; ++j) simd::store<4, false>(y + 4 * j, out[j]);
+  }
+  return end;
+}
+
 // A matrix read transposed: its stored rows are the lanes of the result, so row k times the
 // broadcast v(k) is product k of every result, summed left to right. A single matrix's rows and
 // a single vector's broadcasts are loaded once.
 template <class T, int N, class D, class A, class V>
-void rowsBody(const D& d, const A& a, const V& v, int32_t count) {
+void rowsBody(const D d, const A a, const V v, int32_t objects) {
+  const int32_t count = objectsOf<D>(objects);
   constexpr bool kOneA = IsOne<A>::value, kOneV = IsOne<V>::value;
   constexpr int kR = Lanes<T, N>::kRegs;
   Lanes<T, N> rows[N];
@@ -160,10 +221,13 @@ void rowsBody(const D& d, const A& a, const V& v, int32_t count) {
 }
 
 // Float matrices of 3 or 4 read as stored, one per object: row i times the vector holds the
-// products of result i; a 4 by 4 transposition turns them into product k of every result, and
-// the float lane order sums them. A row of 3 is loaded as a pair and a single.
+// products of result i. At 3 a 4 by 4 transposition (the fourth row zero) turns them into
+// product k of every result, summed (p0 + p1) + p2; a row of 3 is loaded as a pair and a single.
+// At 4, interleaving rows 0 and 1 (and 2 and 3) and adding the halves gives p0 + p2 and p1 + p3
+// of each row side by side, and adding the halves of those gives (p0 + p2) + (p1 + p3).
 template <int N, class D, class A, class V>
-void transposedBody(const D& d, const A& a, const V& v, int32_t count) {
+void transposedBody(const D d, const A a, const V v, int32_t objects) {
+  const int32_t count = objectsOf<D>(objects);
   using F = simd::Vec<float>;
   constexpr bool kOneV = IsOne<V>::value;
   const F one = kOneV ? simd::loadPart<N>(v.obj(0).rowPtr(0)) : simd::zeros<float>();
@@ -172,16 +236,50 @@ void transposedBody(const D& d, const A& a, const V& v, int32_t count) {
     const F x = kOneV ? one : simd::loadPart<N>(v.obj(n).rowPtr(0));
     F p[4];
     for (int i = 0; i < N; ++i) p[i] = simd::mul(simd::loadPart<N>(m.rowPtr(i)), x);
-    if constexpr (N == 3) p[3] = simd::zeros<float>();
-    simd::transpose4(p[0], p[1], p[2], p[3]);
-    simd::storePart<N>(d.obj(n).rowPtr(0), sumOf<Order::Pair32, N>(p, 0));
+    if constexpr (N == 3) {
+      p[3] = simd::zeros<float>();
+      simd::transpose4(p[0], p[1], p[2], p[3]);
+      simd::storePart<3>(d.obj(n).rowPtr(0), sumOf<Order::Pair32, 3>(p, 0));
+    } else {
+      const F top = simd::add(simd::interleaveLow(p[0], p[1]), simd::interleaveHigh(p[0], p[1]));
+      const F bottom = simd::add(simd::interleaveLow(p[2], p[3]), simd::interleaveHigh(p[2], p[3]));
+      simd::store<4, false>(d.obj(n).rowPtr(0),
+                            simd::add(simd::lowHalves(top, bottom), simd::highHalves(top, bottom)));
+    }
+  }
+}
+
+// One float 4 by 4 matrix for a batch of vectors: rows 0 and 1 (and 2 and 3) share registers,
+// two columns at a time, (a00 a01 a10 a11) and (a02 a03 a12 a13), so the vector's pairs
+// duplicated, (v0 v1 v0 v1) and (v2 v3 v2 v3), serve two rows at once: the sum of the two
+// products holds p0 + p2 and p1 + p3 of both rows, and one horizontal addition of the two row
+// pairs gives (p0 + p2) + (p1 + p3) of every row; src3 last.
+template <bool Gx, class D, class A, class V, class S3>
+void pairs4Body(const D d, const A a, const V v, const S3 s3, int32_t objects) {
+  const int32_t count = objectsOf<D>(objects);
+  using F = simd::Vec<float>;
+  const auto m = a.obj(0);
+  F c[4];
+  for (int q = 0; q < 4; ++q) {
+    const int r = 2 * (q / 2), k = 2 * (q % 2);
+    c[q] = simd::constant(*m.at(r, k), *m.at(r, k + 1), *m.at(r + 1, k), *m.at(r + 1, k + 1));
+  }
+  for (int32_t n = 0; n < count; ++n) {
+    const float* x = v.obj(n).rowPtr(0);
+    const F lo = simd::dupPair(x), hi = simd::dupPair(x + 2);
+    const F top = simd::add(simd::mul(c[0], lo), simd::mul(c[1], hi));
+    const F bottom = simd::add(simd::mul(c[2], lo), simd::mul(c[3], hi));
+    F r = simd::hadd(top, bottom);
+    if constexpr (Gx) r = simd::add(r, simd::load<4, false>(s3.obj(n).rowPtr(0)));
+    simd::store<4, false>(d.obj(n).rowPtr(0), r);
   }
 }
 
 // The scalar body of the fixed sizes: each result's N products summed in order O (src3 last).
 // A single matrix or vector is read once, before the object loop.
 template <class T, int N, Order O, bool Gx, class D, class A, class V, class S3>
-void scalarBody(const D& d, const A& a, const V& v, const S3& s3, int32_t count) {
+void scalarBody(const D d, const A a, const V v, const S3 s3, int32_t objects) {
+  const int32_t count = objectsOf<D>(objects);
   constexpr bool kOneA = Single<A>::value, kOneV = Single<V>::value;
   T m[N][N], x1[N];
   if constexpr (kOneA) {
@@ -215,7 +313,8 @@ void scalarBody(const D& d, const A& a, const V& v, const S3& s3, int32_t count)
 // then the products added in order, two per step, the running sum stored after each; Gaxpy then
 // adds src3's element, read after dst was written, and stores again.
 template <class T, bool Gx, class D, class A, class V, class S3>
-void tripleLoop(const D& d, const A& a, const V& v, const S3& s3, int32_t count, int32_t rows, int32_t inner) {
+void tripleLoop(const D d, const A a, const V v, const S3 s3, int32_t objects, int32_t rows, int32_t inner) {
+  const int32_t count = objectsOf<D>(objects);
   for (int32_t n = 0; n < count; ++n) {
     const auto ao = a.obj(n);
     const auto vo = v.obj(n);
@@ -358,7 +457,8 @@ void tvRows(const Obj<T>& o, int32_t rows, int32_t inner) {
 // LayoutS float batch of vectors is the exception: every object alone, every row 8 products a
 // step, aligned on the object's vector.
 template <class T, Layout L, Shape S, class D, class A, class V>
-void contiguousGeneral(const D& d, const A& a, const V& v, int32_t count, int32_t rows, int32_t inner) {
+void contiguousGeneral(const D d, const A a, const V v, int32_t objects, int32_t rows, int32_t inner) {
+  const int32_t count = objectsOf<D>(objects);
   constexpr bool kT = S.a.kind == 't';
   constexpr bool kEach = !kT && L == Layout::S && std::is_same_v<T, float> && !S.a.array && S.b.array;
   constexpr bool kPeel = S.a.array && !S.b.array;  // aligned on the one vector of the call
@@ -411,7 +511,12 @@ void worker(const D& d, const A& a, const V& v, const S3& s3, int32_t count, int
     } else if constexpr (!Contig) {
       scalarBody<T, N, kOrder, Gx>(d, seen(a), v, s3, count);
     } else if constexpr (!kT && !S.a.array && (Gx || S.anyArray)) {
-      columnsBody<T, N, kOrder, Gx>(d, a, v, s3, count);
+      int32_t done = 0;
+      if constexpr (N == 3 && kF32 && L == Layout::S && S.b.array)
+        if (packed3(v) && packed3(d) && packed3(s3)) done = dense3Body<Gx>(d, a, v, s3, count);
+      if constexpr (N == 4 && kF32) pairs4Body<Gx>(d, a, v, s3, count);
+      else if (done < count)
+        columnsBody<T, N, kOrder, Gx>(fromObject(d, done), a, fromObject(v, done), fromObject(s3, done), count - done);
     } else if constexpr (kT && S.anyArray) {
       rowsBody<T, N>(d, a, v, count);
     } else if constexpr (!kT && S.a.array && kF32 && N <= 4) {
