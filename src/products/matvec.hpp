@@ -412,8 +412,8 @@ void mvRows(const Obj<T>& o, int32_t rows, int32_t inner) {
 }
 
 // One object of a pair: rows in blocks of 4, one register accumulator each; one remaining row
-// takes 8 products a step, two or three take 4. Aligned on the vector only when it is the one
-// vector of the call.
+// takes 8 products a step, two or three take 4 (in doubles two registers, as 8 products are
+// four). Aligned on the vector only when it is the one vector of the call.
 template <class T>
 void pairRows(const Obj<T>& o, int32_t rows, int32_t inner, bool peel) {
   const int32_t rem = rows % 4;
@@ -453,9 +453,11 @@ void tvRows(const Obj<T>& o, int32_t rows, int32_t inner) {
 }
 
 // The general body of the contiguous workers of Mul. Arrays go by pairs of objects; the odd last
-// object of the call (or of a thread's slice) follows the rule of the single product. The
-// LayoutS float batch of vectors is the exception: every object alone, every row 8 products a
-// step, aligned on the object's vector.
+// object of the call (or of a thread's slice) follows the rule of the single product, also at
+// the sizes 3 to 6 in the workers without fixed sizes. A transposed matrix's pair sums every
+// result k ascending, the results past the last block of 4 included. The LayoutS float batch of
+// vectors is the exception: every object alone, every row 8 products a step, aligned on the
+// object's vector.
 template <class T, Layout L, Shape S, class D, class A, class V>
 void contiguousGeneral(const D d, const A a, const V v, int32_t objects, int32_t rows, int32_t inner) {
   const int32_t count = objectsOf<D>(objects);
