@@ -27,6 +27,11 @@ TARGET_ROWS += REDUCTION_ROWS
 MUL_ROWS = ["tarnMul_mama_32f/3x3", "tarnMul_mama_32f/4x4", "tarnMul_mama_64f/6x6", "tarnMul_mam_32f/4x4"]
 TARGET_ROWS += MUL_ROWS
 MEMORY_TOLERANCE = {wl: 0.15 for wl in REDUCTION_ROWS}
+# Matrix-vector products and products with a constant: one matrix (or constant) for a batch, the
+# peers at every N and the memory reference at 1,000,000 objects.
+MATVEC_ROWS = ["tarnMul_mva_32f/4x4", "tarnMul_mva_32f/3x3", "tarnMul_mava_32f/4x4", "tarnGaxpy_mva_32f/4x4",
+               "tarnMul_mac_32f/3x3"]
+TARGET_ROWS += MATVEC_ROWS
 
 
 def load(path):

@@ -1,6 +1,7 @@
 // tarn at work on a realistic batch: a million 3x3 and 4x4 matrices and 3-vectors, summed in
-// each layout, scaled, multiplied, reduced to dot products and norms and converted between
-// layouts, on one thread and on all of them, each checked against a plain loop and timed; then
+// each layout, scaled, multiplied, a million 4-vectors transformed by one matrix, reduced to dot
+// products and norms and converted between layouts, on one thread and on all of them, each
+// checked against a plain loop and timed; then
 // the determinants and inverses of the 4x4 batch, a least-squares fit per object, a camera
 // projecting a point cloud to the screen and back, and a batch of small linear systems factored
 // and solved, checked by their residuals, the surface normals of point neighbourhoods,
@@ -350,7 +351,7 @@ int main() {
   std::printf("%s, version %s\n", v->name, v->version);
   std::printf("batch of %d objects, %d hardware threads\n\n", kN, threads);
 
-  Batch m3(9), m4(16), v3(3);
+  Batch m3(9), m4(16), v3(3), v4(4);
   // A LayoutL view of the 3x3 batch: one pointer per object.
   std::vector<const float*> aL(kN), bL(kN);
   std::vector<float*> dL(kN);
@@ -397,6 +398,8 @@ int main() {
   Cloud cloud;
   // Scalars with many significant bits, so every product is rounded.
   const float kScale1 = 0.3f, kScale2 = -1.7f;
+  // A rigid transform with a scale, in homogeneous coordinates, rows as stored.
+  const float xf[4][4] = {{0.8f, -0.6f, 0.0f, 12.5f}, {0.6f, 0.8f, 0.0f, -3.25f}, {0.0f, 0.0f, 1.1f, 0.75f}, {0, 0, 0, 1}};
 
   // Solving: the determinant and inverse of every 4x4 matrix of the batch, and a least-squares
   // fit per object: a quadratic through six noisy samples of a track, six rows and three columns.
@@ -652,6 +655,43 @@ int main() {
          return tarnAffineTransform3DH_mva_32f(cloud.columns, 16, 4, cloud.pts.data(), 12, 4, cloud.screen.data(), 12, 4, kN);
        },
        [&] { return sameBits(cloud.screen, cloud.expect); }},
+      // Transforms: one 4x4 matrix applied to a million 4-vectors, as a tracking loop does every
+      // step, and its affine form with an offset per vector. tarn's float kernels sum the four
+      // products of a row in the order of their registers, (p0 + p2) + (p1 + p3), the offset
+      // last; the loops below do the same, so the results agree bit for bit.
+      {"Mul_mva 4x4 * 4-vectors", 16.0 * 2,
+       [&] {
+         for (int n = 0; n < kN; ++n)
+           for (int i = 0; i < 4; ++i) {
+             const float* x = &v4.a[size_t(n) * 4];
+             const float p0 = xf[i][0] * x[0], p1 = xf[i][1] * x[1], p2 = xf[i][2] * x[2], p3 = xf[i][3] * x[3];
+             v4.expect[size_t(n) * 4 + i] = (p0 + p2) + (p1 + p3);
+           }
+       },
+       [&] { return tarnMul_mva_32f(&xf[0][0], 16, 4, 4, 4, v4.a.data(), 16, 4, 4, v4.d.data(), 16, 4, kN); },
+       [&] { return sameBits(v4.d, v4.expect); }},
+      {"Gaxpy_mva 4x4 * v + b", 16.0 * 3,
+       [&] {
+         for (int n = 0; n < kN; ++n)
+           for (int i = 0; i < 4; ++i) {
+             const float* x = &v4.a[size_t(n) * 4];
+             const float p0 = xf[i][0] * x[0], p1 = xf[i][1] * x[1], p2 = xf[i][2] * x[2], p3 = xf[i][3] * x[3];
+             const float sum = (p0 + p2) + (p1 + p3);
+             v4.expect[size_t(n) * 4 + i] = sum + v4.b[size_t(n) * 4 + i];
+           }
+       },
+       [&] {
+         return tarnGaxpy_mva_32f(&xf[0][0], 16, 4, 4, 4, v4.a.data(), 16, 4, 4, v4.b.data(), 16, 4, 4, v4.d.data(), 16,
+                                  4, kN);
+       },
+       [&] { return sameBits(v4.d, v4.expect); }},
+      // Every matrix of the batch scaled by one constant: one rounded product per element.
+      {"Mul_mac 3x3 * constant", 36.0 * 2,
+       [&] {
+         for (size_t i = 0; i < m3.a.size(); ++i) m3.expect[i] = m3.a[i] * kScale1;
+       },
+       [&] { return tarnMul_mac_32f(m3.a.data(), 36, 12, 4, kScale1, m3.d.data(), 36, 12, 4, 3, 3, kN); },
+       [&] { return sameBits(m3.d, m3.expect); }},
   };
 
   std::printf("%-30s %12s %14s %14s %14s %8s\n", "workload", "check", "plain loop", "tarn 1 thread",

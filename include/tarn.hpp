@@ -3675,6 +3675,234 @@ inline std::error_code frob_norm(const matrix_elems_array<const double>& src, co
   return detail::status(::tarnFrobNorm_ma_64f_P(src.ptr, src.roi, src.obj, width, height, dst.data(), count));
 }
 
+// Gaxpy: dst = src1 * src2 + src3 for a matrix read as stored: the products summed, then src3 added to the complete sum.
+/// tarnGaxpy_mv_32f
+inline std::error_code gaxpy(const matrix<const float>& src1, const vector<const float>& src2, const vector<const float>& src3, const vector<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mv_32f(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.elem, src2Len, src3.ptr, src3.elem, src3Len, dst.ptr, dst.elem));
+}
+/// tarnGaxpy_mv_32f_P
+inline std::error_code gaxpy(const matrix_elems<const float>& src1, const vector_elems<const float>& src2, const vector_elems<const float>& src3, const vector_elems<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mv_32f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2Len, src3.ptr, src3.roi, src3Len, dst.ptr, dst.roi));
+}
+/// tarnGaxpy_mv_64f
+inline std::error_code gaxpy(const matrix<const double>& src1, const vector<const double>& src2, const vector<const double>& src3, const vector<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mv_64f(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.elem, src2Len, src3.ptr, src3.elem, src3Len, dst.ptr, dst.elem));
+}
+/// tarnGaxpy_mv_64f_P
+inline std::error_code gaxpy(const matrix_elems<const double>& src1, const vector_elems<const double>& src2, const vector_elems<const double>& src3, const vector_elems<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mv_64f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2Len, src3.ptr, src3.roi, src3Len, dst.ptr, dst.roi));
+}
+/// tarnGaxpy_mva_32f
+inline std::error_code gaxpy(const matrix<const float>& src1, const vector_array<const float>& src2, const vector_array<const float>& src3, const vector_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(src3.count == count &&
+        dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mva_32f(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.obj, src2.elem, src2Len, src3.ptr, src3.obj, src3.elem, src3Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnGaxpy_mva_32f_L
+inline std::error_code gaxpy(const matrix<const float>& src1, const vector_table<const float>& src2, const vector_table<const float>& src3, const vector_table<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(src3.count == count &&
+        dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mva_32f_L(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.roi, src2.elem, src2Len, src3.ptr, src3.roi, src3.elem, src3Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnGaxpy_mva_32f_P
+inline std::error_code gaxpy(const matrix_elems<const float>& src1, const vector_elems_array<const float>& src2, const vector_elems_array<const float>& src3, const vector_elems_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(src3.count == count &&
+        dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mva_32f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Len, src3.ptr, src3.roi, src3.obj, src3Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnGaxpy_mva_64f
+inline std::error_code gaxpy(const matrix<const double>& src1, const vector_array<const double>& src2, const vector_array<const double>& src3, const vector_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(src3.count == count &&
+        dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mva_64f(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.obj, src2.elem, src2Len, src3.ptr, src3.obj, src3.elem, src3Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnGaxpy_mva_64f_L
+inline std::error_code gaxpy(const matrix<const double>& src1, const vector_table<const double>& src2, const vector_table<const double>& src3, const vector_table<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(src3.count == count &&
+        dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mva_64f_L(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.roi, src2.elem, src2Len, src3.ptr, src3.roi, src3.elem, src3Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnGaxpy_mva_64f_P
+inline std::error_code gaxpy(const matrix_elems<const double>& src1, const vector_elems_array<const double>& src2, const vector_elems_array<const double>& src3, const vector_elems_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(src3.count == count &&
+        dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mva_64f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Len, src3.ptr, src3.roi, src3.obj, src3Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnGaxpy_mvav_32f
+inline std::error_code gaxpy(const matrix<const float>& src1, const vector_array<const float>& src2, const vector<const float>& src3, const vector_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mvav_32f(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.obj, src2.elem, src2Len, src3.ptr, src3.elem, src3Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnGaxpy_mvav_32f_L
+inline std::error_code gaxpy(const matrix<const float>& src1, const vector_table<const float>& src2, const vector<const float>& src3, const vector_table<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mvav_32f_L(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.roi, src2.elem, src2Len, src3.ptr, src3.elem, src3Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnGaxpy_mvav_32f_P
+inline std::error_code gaxpy(const matrix_elems<const float>& src1, const vector_elems_array<const float>& src2, const vector_elems<const float>& src3, const vector_elems_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mvav_32f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Len, src3.ptr, src3.roi, src3Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnGaxpy_mvav_64f
+inline std::error_code gaxpy(const matrix<const double>& src1, const vector_array<const double>& src2, const vector<const double>& src3, const vector_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mvav_64f(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.obj, src2.elem, src2Len, src3.ptr, src3.elem, src3Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnGaxpy_mvav_64f_L
+inline std::error_code gaxpy(const matrix<const double>& src1, const vector_table<const double>& src2, const vector<const double>& src3, const vector_table<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mvav_64f_L(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.roi, src2.elem, src2Len, src3.ptr, src3.elem, src3Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnGaxpy_mvav_64f_P
+inline std::error_code gaxpy(const matrix_elems<const double>& src1, const vector_elems_array<const double>& src2, const vector_elems<const double>& src3, const vector_elems_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  const int32_t src3Len = src3.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len &&
+        src3Len == src1Height))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnGaxpy_mvav_64f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Len, src3.ptr, src3.roi, src3Len, dst.ptr, dst.roi, dst.obj, count));
+}
+
 // Invert: Inverse of each square matrix, or tarnStatusSingular; buffer holds widthHeight*(widthHeight+1) elements.
 /// tarnInvert_m_32f
 inline std::error_code invert(const matrix<const float>& src, const std::span<float>& buffer, const matrix<float>& dst) {
@@ -4398,6 +4626,72 @@ inline std::error_code load_identity(const matrix_elems_array<double>& dst) {
 }
 
 // Mul: Products: dst = op(src1) * op(src2) of matrices and vectors, each matrix read as stored (m) or transposed (t), its sizes describing it as stored; or an operand times a constant.
+/// tarnMul_mac_32f
+inline std::error_code mul(const matrix_array<const float>& src, float val, const matrix_array<float>& dst) {
+  const int32_t width = src.cols;
+  const int32_t height = src.rows;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mac_32f(src.ptr, src.obj, src.row, src.elem, val, dst.ptr, dst.obj, dst.row, dst.elem, width, height, count));
+}
+/// tarnMul_mac_32f_L
+inline std::error_code mul(const matrix_table<const float>& src, float val, const matrix_table<float>& dst) {
+  const int32_t width = src.cols;
+  const int32_t height = src.rows;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mac_32f_L(src.ptr, src.roi, src.row, src.elem, val, dst.ptr, dst.roi, dst.row, dst.elem, width, height, count));
+}
+/// tarnMul_mac_32f_P
+inline std::error_code mul(const matrix_elems_array<const float>& src, float val, const matrix_elems_array<float>& dst) {
+  const int32_t width = src.cols;
+  const int32_t height = src.rows;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mac_32f_P(src.ptr, src.roi, src.obj, val, dst.ptr, dst.roi, dst.obj, width, height, count));
+}
+/// tarnMul_mac_64f
+inline std::error_code mul(const matrix_array<const double>& src, double val, const matrix_array<double>& dst) {
+  const int32_t width = src.cols;
+  const int32_t height = src.rows;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mac_64f(src.ptr, src.obj, src.row, src.elem, val, dst.ptr, dst.obj, dst.row, dst.elem, width, height, count));
+}
+/// tarnMul_mac_64f_L
+inline std::error_code mul(const matrix_table<const double>& src, double val, const matrix_table<double>& dst) {
+  const int32_t width = src.cols;
+  const int32_t height = src.rows;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mac_64f_L(src.ptr, src.roi, src.row, src.elem, val, dst.ptr, dst.roi, dst.row, dst.elem, width, height, count));
+}
+/// tarnMul_mac_64f_P
+inline std::error_code mul(const matrix_elems_array<const double>& src, double val, const matrix_elems_array<double>& dst) {
+  const int32_t width = src.cols;
+  const int32_t height = src.rows;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mac_64f_P(src.ptr, src.roi, src.obj, val, dst.ptr, dst.roi, dst.obj, width, height, count));
+}
 /// tarnMul_mam_32f
 inline std::error_code mul(const matrix_array<const float>& src1, const matrix<const float>& src2, const matrix_array<float>& dst) {
   const int32_t src1Width = src1.cols;
@@ -4746,6 +5040,196 @@ inline std::error_code mul(const matrix_elems_array<const double>& src1, const t
     return make_error_code(errc::shape_mismatch);
   return detail::status(::tarnMul_mata_64f_P(src1.ptr, src1.roi, src1.obj, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Width, src2Height, dst.ptr, dst.roi, dst.obj, count));
 }
+/// tarnMul_mav_32f
+inline std::error_code mul(const matrix_array<const float>& src1, const vector<const float>& src2, const vector_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mav_32f(src1.ptr, src1.obj, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.elem, src2Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnMul_mav_32f_L
+inline std::error_code mul(const matrix_table<const float>& src1, const vector<const float>& src2, const vector_table<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mav_32f_L(src1.ptr, src1.roi, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.elem, src2Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnMul_mav_32f_P
+inline std::error_code mul(const matrix_elems_array<const float>& src1, const vector_elems<const float>& src2, const vector_elems_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mav_32f_P(src1.ptr, src1.roi, src1.obj, src1Width, src1Height, src2.ptr, src2.roi, src2Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnMul_mav_64f
+inline std::error_code mul(const matrix_array<const double>& src1, const vector<const double>& src2, const vector_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mav_64f(src1.ptr, src1.obj, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.elem, src2Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnMul_mav_64f_L
+inline std::error_code mul(const matrix_table<const double>& src1, const vector<const double>& src2, const vector_table<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mav_64f_L(src1.ptr, src1.roi, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.elem, src2Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnMul_mav_64f_P
+inline std::error_code mul(const matrix_elems_array<const double>& src1, const vector_elems<const double>& src2, const vector_elems_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mav_64f_P(src1.ptr, src1.roi, src1.obj, src1Width, src1Height, src2.ptr, src2.roi, src2Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnMul_mava_32f
+inline std::error_code mul(const matrix_array<const float>& src1, const vector_array<const float>& src2, const vector_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(src2.count == count &&
+        dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mava_32f(src1.ptr, src1.obj, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.obj, src2.elem, src2Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnMul_mava_32f_L
+inline std::error_code mul(const matrix_table<const float>& src1, const vector_table<const float>& src2, const vector_table<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(src2.count == count &&
+        dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mava_32f_L(src1.ptr, src1.roi, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.roi, src2.elem, src2Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnMul_mava_32f_P
+inline std::error_code mul(const matrix_elems_array<const float>& src1, const vector_elems_array<const float>& src2, const vector_elems_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(src2.count == count &&
+        dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mava_32f_P(src1.ptr, src1.roi, src1.obj, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnMul_mava_64f
+inline std::error_code mul(const matrix_array<const double>& src1, const vector_array<const double>& src2, const vector_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(src2.count == count &&
+        dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mava_64f(src1.ptr, src1.obj, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.obj, src2.elem, src2Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnMul_mava_64f_L
+inline std::error_code mul(const matrix_table<const double>& src1, const vector_table<const double>& src2, const vector_table<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(src2.count == count &&
+        dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mava_64f_L(src1.ptr, src1.roi, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.roi, src2.elem, src2Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnMul_mava_64f_P
+inline std::error_code mul(const matrix_elems_array<const double>& src1, const vector_elems_array<const double>& src2, const vector_elems_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(src2.count == count &&
+        dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mava_64f_P(src1.ptr, src1.roi, src1.obj, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnMul_mc_32f
+inline std::error_code mul(const matrix<const float>& src, float val, const matrix<float>& dst) {
+  const int32_t width = src.cols;
+  const int32_t height = src.rows;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mc_32f(src.ptr, src.row, src.elem, val, dst.ptr, dst.row, dst.elem, width, height));
+}
+/// tarnMul_mc_32f_P
+inline std::error_code mul(const matrix_elems<const float>& src, float val, const matrix_elems<float>& dst) {
+  const int32_t width = src.cols;
+  const int32_t height = src.rows;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mc_32f_P(src.ptr, src.roi, val, dst.ptr, dst.roi, width, height));
+}
+/// tarnMul_mc_64f
+inline std::error_code mul(const matrix<const double>& src, double val, const matrix<double>& dst) {
+  const int32_t width = src.cols;
+  const int32_t height = src.rows;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mc_64f(src.ptr, src.row, src.elem, val, dst.ptr, dst.row, dst.elem, width, height));
+}
+/// tarnMul_mc_64f_P
+inline std::error_code mul(const matrix_elems<const double>& src, double val, const matrix_elems<double>& dst) {
+  const int32_t width = src.cols;
+  const int32_t height = src.rows;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mc_64f_P(src.ptr, src.roi, val, dst.ptr, dst.roi, width, height));
+}
 /// tarnMul_mm_32f
 inline std::error_code mul(const matrix<const float>& src1, const matrix<const float>& src2, const matrix<float>& dst) {
   const int32_t src1Width = src1.cols;
@@ -5017,6 +5501,188 @@ inline std::error_code mul(const matrix_elems<const double>& src1, const transpo
         src1Width == src2Width))
     return make_error_code(errc::shape_mismatch);
   return detail::status(::tarnMul_mta_64f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Width, src2Height, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnMul_mv_32f
+inline std::error_code mul(const matrix<const float>& src1, const vector<const float>& src2, const vector<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mv_32f(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.elem, src2Len, dst.ptr, dst.elem));
+}
+/// tarnMul_mv_32f_P
+inline std::error_code mul(const matrix_elems<const float>& src1, const vector_elems<const float>& src2, const vector_elems<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mv_32f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2Len, dst.ptr, dst.roi));
+}
+/// tarnMul_mv_64f
+inline std::error_code mul(const matrix<const double>& src1, const vector<const double>& src2, const vector<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mv_64f(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.elem, src2Len, dst.ptr, dst.elem));
+}
+/// tarnMul_mv_64f_P
+inline std::error_code mul(const matrix_elems<const double>& src1, const vector_elems<const double>& src2, const vector_elems<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mv_64f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2Len, dst.ptr, dst.roi));
+}
+/// tarnMul_mva_32f
+inline std::error_code mul(const matrix<const float>& src1, const vector_array<const float>& src2, const vector_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mva_32f(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.obj, src2.elem, src2Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnMul_mva_32f_L
+inline std::error_code mul(const matrix<const float>& src1, const vector_table<const float>& src2, const vector_table<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mva_32f_L(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.roi, src2.elem, src2Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnMul_mva_32f_P
+inline std::error_code mul(const matrix_elems<const float>& src1, const vector_elems_array<const float>& src2, const vector_elems_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mva_32f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnMul_mva_64f
+inline std::error_code mul(const matrix<const double>& src1, const vector_array<const double>& src2, const vector_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mva_64f(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.obj, src2.elem, src2Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnMul_mva_64f_L
+inline std::error_code mul(const matrix<const double>& src1, const vector_table<const double>& src2, const vector_table<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mva_64f_L(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.roi, src2.elem, src2Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnMul_mva_64f_P
+inline std::error_code mul(const matrix_elems<const double>& src1, const vector_elems_array<const double>& src2, const vector_elems_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Height &&
+        src1Width == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_mva_64f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnMul_tac_32f
+inline std::error_code mul(const transposed<matrix_array<const float>>& src, float val, const matrix_array<float>& dst) {
+  const int32_t width = src.rows;
+  const int32_t height = src.cols;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tac_32f(src.ptr, src.obj, src.row, src.elem, val, dst.ptr, dst.obj, dst.row, dst.elem, width, height, count));
+}
+/// tarnMul_tac_32f_L
+inline std::error_code mul(const transposed<matrix_table<const float>>& src, float val, const matrix_table<float>& dst) {
+  const int32_t width = src.rows;
+  const int32_t height = src.cols;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tac_32f_L(src.ptr, src.roi, src.row, src.elem, val, dst.ptr, dst.roi, dst.row, dst.elem, width, height, count));
+}
+/// tarnMul_tac_32f_P
+inline std::error_code mul(const transposed<matrix_elems_array<const float>>& src, float val, const matrix_elems_array<float>& dst) {
+  const int32_t width = src.rows;
+  const int32_t height = src.cols;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tac_32f_P(src.ptr, src.roi, src.obj, val, dst.ptr, dst.roi, dst.obj, width, height, count));
+}
+/// tarnMul_tac_64f
+inline std::error_code mul(const transposed<matrix_array<const double>>& src, double val, const matrix_array<double>& dst) {
+  const int32_t width = src.rows;
+  const int32_t height = src.cols;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tac_64f(src.ptr, src.obj, src.row, src.elem, val, dst.ptr, dst.obj, dst.row, dst.elem, width, height, count));
+}
+/// tarnMul_tac_64f_L
+inline std::error_code mul(const transposed<matrix_table<const double>>& src, double val, const matrix_table<double>& dst) {
+  const int32_t width = src.rows;
+  const int32_t height = src.cols;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tac_64f_L(src.ptr, src.roi, src.row, src.elem, val, dst.ptr, dst.roi, dst.row, dst.elem, width, height, count));
+}
+/// tarnMul_tac_64f_P
+inline std::error_code mul(const transposed<matrix_elems_array<const double>>& src, double val, const matrix_elems_array<double>& dst) {
+  const int32_t width = src.rows;
+  const int32_t height = src.cols;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tac_64f_P(src.ptr, src.roi, src.obj, val, dst.ptr, dst.roi, dst.obj, width, height, count));
 }
 /// tarnMul_tam_32f
 inline std::error_code mul(const transposed<matrix_array<const float>>& src1, const matrix<const float>& src2, const matrix_array<float>& dst) {
@@ -5366,6 +6032,196 @@ inline std::error_code mul(const transposed<matrix_elems_array<const double>>& s
     return make_error_code(errc::shape_mismatch);
   return detail::status(::tarnMul_tata_64f_P(src1.ptr, src1.roi, src1.obj, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Width, src2Height, dst.ptr, dst.roi, dst.obj, count));
 }
+/// tarnMul_tav_32f
+inline std::error_code mul(const transposed<matrix_array<const float>>& src1, const vector<const float>& src2, const vector_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tav_32f(src1.ptr, src1.obj, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.elem, src2Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnMul_tav_32f_L
+inline std::error_code mul(const transposed<matrix_table<const float>>& src1, const vector<const float>& src2, const vector_table<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tav_32f_L(src1.ptr, src1.roi, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.elem, src2Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnMul_tav_32f_P
+inline std::error_code mul(const transposed<matrix_elems_array<const float>>& src1, const vector_elems<const float>& src2, const vector_elems_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tav_32f_P(src1.ptr, src1.roi, src1.obj, src1Width, src1Height, src2.ptr, src2.roi, src2Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnMul_tav_64f
+inline std::error_code mul(const transposed<matrix_array<const double>>& src1, const vector<const double>& src2, const vector_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tav_64f(src1.ptr, src1.obj, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.elem, src2Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnMul_tav_64f_L
+inline std::error_code mul(const transposed<matrix_table<const double>>& src1, const vector<const double>& src2, const vector_table<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tav_64f_L(src1.ptr, src1.roi, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.elem, src2Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnMul_tav_64f_P
+inline std::error_code mul(const transposed<matrix_elems_array<const double>>& src1, const vector_elems<const double>& src2, const vector_elems_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tav_64f_P(src1.ptr, src1.roi, src1.obj, src1Width, src1Height, src2.ptr, src2.roi, src2Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnMul_tava_32f
+inline std::error_code mul(const transposed<matrix_array<const float>>& src1, const vector_array<const float>& src2, const vector_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(src2.count == count &&
+        dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tava_32f(src1.ptr, src1.obj, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.obj, src2.elem, src2Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnMul_tava_32f_L
+inline std::error_code mul(const transposed<matrix_table<const float>>& src1, const vector_table<const float>& src2, const vector_table<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(src2.count == count &&
+        dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tava_32f_L(src1.ptr, src1.roi, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.roi, src2.elem, src2Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnMul_tava_32f_P
+inline std::error_code mul(const transposed<matrix_elems_array<const float>>& src1, const vector_elems_array<const float>& src2, const vector_elems_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(src2.count == count &&
+        dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tava_32f_P(src1.ptr, src1.roi, src1.obj, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnMul_tava_64f
+inline std::error_code mul(const transposed<matrix_array<const double>>& src1, const vector_array<const double>& src2, const vector_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(src2.count == count &&
+        dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tava_64f(src1.ptr, src1.obj, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.obj, src2.elem, src2Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnMul_tava_64f_L
+inline std::error_code mul(const transposed<matrix_table<const double>>& src1, const vector_table<const double>& src2, const vector_table<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(src2.count == count &&
+        dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tava_64f_L(src1.ptr, src1.roi, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.roi, src2.elem, src2Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnMul_tava_64f_P
+inline std::error_code mul(const transposed<matrix_elems_array<const double>>& src1, const vector_elems_array<const double>& src2, const vector_elems_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src1.count;
+  if (!(src2.count == count &&
+        dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tava_64f_P(src1.ptr, src1.roi, src1.obj, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnMul_tc_32f
+inline std::error_code mul(const transposed<matrix<const float>>& src, float val, const matrix<float>& dst) {
+  const int32_t width = src.rows;
+  const int32_t height = src.cols;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tc_32f(src.ptr, src.row, src.elem, val, dst.ptr, dst.row, dst.elem, width, height));
+}
+/// tarnMul_tc_32f_P
+inline std::error_code mul(const transposed<matrix_elems<const float>>& src, float val, const matrix_elems<float>& dst) {
+  const int32_t width = src.rows;
+  const int32_t height = src.cols;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tc_32f_P(src.ptr, src.roi, val, dst.ptr, dst.roi, width, height));
+}
+/// tarnMul_tc_64f
+inline std::error_code mul(const transposed<matrix<const double>>& src, double val, const matrix<double>& dst) {
+  const int32_t width = src.rows;
+  const int32_t height = src.cols;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tc_64f(src.ptr, src.row, src.elem, val, dst.ptr, dst.row, dst.elem, width, height));
+}
+/// tarnMul_tc_64f_P
+inline std::error_code mul(const transposed<matrix_elems<const double>>& src, double val, const matrix_elems<double>& dst) {
+  const int32_t width = src.rows;
+  const int32_t height = src.cols;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.rows == height &&
+        dst.cols == width))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tc_64f_P(src.ptr, src.roi, val, dst.ptr, dst.roi, width, height));
+}
 /// tarnMul_tm_32f
 inline std::error_code mul(const transposed<matrix<const float>>& src1, const matrix<const float>& src2, const matrix<float>& dst) {
   const int32_t src1Width = src1.cols;
@@ -5637,6 +6493,322 @@ inline std::error_code mul(const transposed<matrix_elems<const double>>& src1, c
         src1Height == src2Width))
     return make_error_code(errc::shape_mismatch);
   return detail::status(::tarnMul_tta_64f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Width, src2Height, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnMul_tv_32f
+inline std::error_code mul(const transposed<matrix<const float>>& src1, const vector<const float>& src2, const vector<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tv_32f(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.elem, src2Len, dst.ptr, dst.elem));
+}
+/// tarnMul_tv_32f_P
+inline std::error_code mul(const transposed<matrix_elems<const float>>& src1, const vector_elems<const float>& src2, const vector_elems<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tv_32f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2Len, dst.ptr, dst.roi));
+}
+/// tarnMul_tv_64f
+inline std::error_code mul(const transposed<matrix<const double>>& src1, const vector<const double>& src2, const vector<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tv_64f(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.elem, src2Len, dst.ptr, dst.elem));
+}
+/// tarnMul_tv_64f_P
+inline std::error_code mul(const transposed<matrix_elems<const double>>& src1, const vector_elems<const double>& src2, const vector_elems<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tv_64f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2Len, dst.ptr, dst.roi));
+}
+/// tarnMul_tva_32f
+inline std::error_code mul(const transposed<matrix<const float>>& src1, const vector_array<const float>& src2, const vector_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tva_32f(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.obj, src2.elem, src2Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnMul_tva_32f_L
+inline std::error_code mul(const transposed<matrix<const float>>& src1, const vector_table<const float>& src2, const vector_table<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tva_32f_L(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.roi, src2.elem, src2Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnMul_tva_32f_P
+inline std::error_code mul(const transposed<matrix_elems<const float>>& src1, const vector_elems_array<const float>& src2, const vector_elems_array<float>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tva_32f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnMul_tva_64f
+inline std::error_code mul(const transposed<matrix<const double>>& src1, const vector_array<const double>& src2, const vector_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tva_64f(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.obj, src2.elem, src2Len, dst.ptr, dst.obj, dst.elem, count));
+}
+/// tarnMul_tva_64f_L
+inline std::error_code mul(const transposed<matrix<const double>>& src1, const vector_table<const double>& src2, const vector_table<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tva_64f_L(src1.ptr, src1.row, src1.elem, src1Width, src1Height, src2.ptr, src2.roi, src2.elem, src2Len, dst.ptr, dst.roi, dst.elem, count));
+}
+/// tarnMul_tva_64f_P
+inline std::error_code mul(const transposed<matrix_elems<const double>>& src1, const vector_elems_array<const double>& src2, const vector_elems_array<double>& dst) {
+  const int32_t src1Width = src1.cols;
+  const int32_t src1Height = src1.rows;
+  const int32_t src2Len = src2.len;
+  [[maybe_unused]] const int32_t count = src2.count;
+  if (!(dst.count == count &&
+        dst.len == src1Width &&
+        src1Height == src2Len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_tva_64f_P(src1.ptr, src1.roi, src1Width, src1Height, src2.ptr, src2.roi, src2.obj, src2Len, dst.ptr, dst.roi, dst.obj, count));
+}
+/// tarnMul_vac_32f
+inline std::error_code mul(const vector_array<const float>& src, float val, const vector_array<float>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vac_32f(src.ptr, src.obj, src.elem, val, dst.ptr, dst.obj, dst.elem, len, count));
+}
+/// tarnMul_vac_32f_L
+inline std::error_code mul(const vector_table<const float>& src, float val, const vector_table<float>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vac_32f_L(src.ptr, src.roi, src.elem, val, dst.ptr, dst.roi, dst.elem, len, count));
+}
+/// tarnMul_vac_32f_P
+inline std::error_code mul(const vector_elems_array<const float>& src, float val, const vector_elems_array<float>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vac_32f_P(src.ptr, src.roi, src.obj, val, dst.ptr, dst.roi, dst.obj, len, count));
+}
+/// tarnMul_vac_64f
+inline std::error_code mul(const vector_array<const double>& src, double val, const vector_array<double>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vac_64f(src.ptr, src.obj, src.elem, val, dst.ptr, dst.obj, dst.elem, len, count));
+}
+/// tarnMul_vac_64f_L
+inline std::error_code mul(const vector_table<const double>& src, double val, const vector_table<double>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vac_64f_L(src.ptr, src.roi, src.elem, val, dst.ptr, dst.roi, dst.elem, len, count));
+}
+/// tarnMul_vac_64f_P
+inline std::error_code mul(const vector_elems_array<const double>& src, double val, const vector_elems_array<double>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vac_64f_P(src.ptr, src.roi, src.obj, val, dst.ptr, dst.roi, dst.obj, len, count));
+}
+/// tarnMul_vaca_32f
+inline std::error_code mul(const vector_array<const float>& src, const constant_array<const float>& val, const vector_array<float>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(val.count == count &&
+        dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vaca_32f(src.ptr, src.obj, src.elem, val.ptr, val.obj, dst.ptr, dst.obj, dst.elem, len, count));
+}
+/// tarnMul_vaca_32f_L
+inline std::error_code mul(const vector_table<const float>& src, const constant_table<const float>& val, const vector_table<float>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(val.count == count &&
+        dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vaca_32f_L(src.ptr, src.roi, src.elem, val.ptr, val.roi, dst.ptr, dst.roi, dst.elem, len, count));
+}
+/// tarnMul_vaca_32f_P
+inline std::error_code mul(const vector_elems_array<const float>& src, const constant_array<const float>& val, const vector_elems_array<float>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(val.count == count &&
+        dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vaca_32f_P(src.ptr, src.roi, src.obj, val.ptr, val.obj, dst.ptr, dst.roi, dst.obj, len, count));
+}
+/// tarnMul_vaca_64f
+inline std::error_code mul(const vector_array<const double>& src, const constant_array<const double>& val, const vector_array<double>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(val.count == count &&
+        dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vaca_64f(src.ptr, src.obj, src.elem, val.ptr, val.obj, dst.ptr, dst.obj, dst.elem, len, count));
+}
+/// tarnMul_vaca_64f_L
+inline std::error_code mul(const vector_table<const double>& src, const constant_table<const double>& val, const vector_table<double>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(val.count == count &&
+        dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vaca_64f_L(src.ptr, src.roi, src.elem, val.ptr, val.roi, dst.ptr, dst.roi, dst.elem, len, count));
+}
+/// tarnMul_vaca_64f_P
+inline std::error_code mul(const vector_elems_array<const double>& src, const constant_array<const double>& val, const vector_elems_array<double>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = src.count;
+  if (!(val.count == count &&
+        dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vaca_64f_P(src.ptr, src.roi, src.obj, val.ptr, val.obj, dst.ptr, dst.roi, dst.obj, len, count));
+}
+/// tarnMul_vc_32f
+inline std::error_code mul(const vector<const float>& src, float val, const vector<float>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vc_32f(src.ptr, src.elem, val, dst.ptr, dst.elem, len));
+}
+/// tarnMul_vc_32f_P
+inline std::error_code mul(const vector_elems<const float>& src, float val, const vector_elems<float>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vc_32f_P(src.ptr, src.roi, val, dst.ptr, dst.roi, len));
+}
+/// tarnMul_vc_64f
+inline std::error_code mul(const vector<const double>& src, double val, const vector<double>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vc_64f(src.ptr, src.elem, val, dst.ptr, dst.elem, len));
+}
+/// tarnMul_vc_64f_P
+inline std::error_code mul(const vector_elems<const double>& src, double val, const vector_elems<double>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = 1;
+  if (!(dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vc_64f_P(src.ptr, src.roi, val, dst.ptr, dst.roi, len));
+}
+/// tarnMul_vca_32f
+inline std::error_code mul(const vector<const float>& src, const constant_array<const float>& val, const vector_array<float>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = val.count;
+  if (!(dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vca_32f(src.ptr, src.elem, val.ptr, val.obj, dst.ptr, dst.obj, dst.elem, len, count));
+}
+/// tarnMul_vca_32f_L
+inline std::error_code mul(const vector<const float>& src, const constant_table<const float>& val, const vector_table<float>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = val.count;
+  if (!(dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vca_32f_L(src.ptr, src.elem, val.ptr, val.roi, dst.ptr, dst.roi, dst.elem, len, count));
+}
+/// tarnMul_vca_32f_P
+inline std::error_code mul(const vector_elems<const float>& src, const constant_array<const float>& val, const vector_elems_array<float>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = val.count;
+  if (!(dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vca_32f_P(src.ptr, src.roi, val.ptr, val.obj, dst.ptr, dst.roi, dst.obj, len, count));
+}
+/// tarnMul_vca_64f
+inline std::error_code mul(const vector<const double>& src, const constant_array<const double>& val, const vector_array<double>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = val.count;
+  if (!(dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vca_64f(src.ptr, src.elem, val.ptr, val.obj, dst.ptr, dst.obj, dst.elem, len, count));
+}
+/// tarnMul_vca_64f_L
+inline std::error_code mul(const vector<const double>& src, const constant_table<const double>& val, const vector_table<double>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = val.count;
+  if (!(dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vca_64f_L(src.ptr, src.elem, val.ptr, val.roi, dst.ptr, dst.roi, dst.elem, len, count));
+}
+/// tarnMul_vca_64f_P
+inline std::error_code mul(const vector_elems<const double>& src, const constant_array<const double>& val, const vector_elems_array<double>& dst) {
+  const int32_t len = src.len;
+  [[maybe_unused]] const int32_t count = val.count;
+  if (!(dst.count == count &&
+        dst.len == len))
+    return make_error_code(errc::shape_mismatch);
+  return detail::status(::tarnMul_vca_64f_P(src.ptr, src.roi, val.ptr, val.obj, dst.ptr, dst.roi, dst.obj, len, count));
 }
 
 // QRBackSubst: Solves R x = Q^T b (least squares for a tall matrix) from what QRDecomp stored; buffer holds height elements.
@@ -8361,6 +9533,8 @@ template <class... A>
 auto extract(A&&... a) -> decltype(void(tarn::extract(std::forward<A>(a)...))) { detail::raise(tarn::extract(std::forward<A>(a)...)); }
 template <class... A>
 auto frob_norm(A&&... a) -> decltype(void(tarn::frob_norm(std::forward<A>(a)...))) { detail::raise(tarn::frob_norm(std::forward<A>(a)...)); }
+template <class... A>
+auto gaxpy(A&&... a) -> decltype(void(tarn::gaxpy(std::forward<A>(a)...))) { detail::raise(tarn::gaxpy(std::forward<A>(a)...)); }
 template <class... A>
 auto hermite_v2(A&&... a) -> decltype(void(tarn::hermite_v2(std::forward<A>(a)...))) { detail::raise(tarn::hermite_v2(std::forward<A>(a)...)); }
 template <class... A>

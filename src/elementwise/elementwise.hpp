@@ -203,7 +203,9 @@ struct Dense {
   static constexpr bool kUse = kRegs <= 12;
 };
 
-template <int H, int W, class A> bool denseOperand(const A&) { return false; }  // scalars
+template <int H, int W, class A> bool denseOperand(const A&) { return false; }  // one scalar per object
+// A constant passed by value is the same in every lane of every register of a group.
+template <int H, int W, class E> bool denseOperand(const One<ValueObj<E>>&) { return true; }
 template <int H, int W, class E> bool denseOperand(const ArrS<E, true>& a) {
   constexpr int32_t row = W * int32_t(sizeof(E));
   return (H == 1 || a.row == row) && a.objStride == H * row;

@@ -142,7 +142,11 @@ inline constexpr std::string_view
     kArgsExtractV = "src:op1 dst:plain len count",
     kArgsFill = "dst:mat width height count",
     kArgsTranspose = "src:op1 width height dst:mat count",
-    kArgsMulMM = "src1:op1 src1Width src1Height src2:op2 src2Width src2Height dst:mat count";
+    kArgsMulMM = "src1:op1 src1Width src1Height src2:op2 src2Width src2Height dst:mat count",
+    kArgsMulMV = "src1:op1 src1Width src1Height src2:op2 src2Len dst:vec count",
+    kArgsGaxpy = "src1:op1 src1Width src1Height src2:op2 src2Len src3:vsrc src3Len dst:vec count",
+    kArgsGaxpyV = "src1:op1 src1Width src1Height src2:op2 src2Len src3:op3 src3Len dst:vec count",
+    kArgsMulC = "src:op1 val:op2 dst:mat width height count";
 
 // General eigenproblems.
 inline constexpr std::string_view
@@ -383,6 +387,41 @@ inline constexpr Row kRows[] = {
   // Scratch sizes of the general eigenproblems: one member per type, named by the type alone.
   {.family = "EigenValuesGetBufSize", .impl = "eigen_buf_size_values", .args = "widthHeight bufSize:size", .checksS = "NZ"},
   {.family = "EigenValuesVectorsGetBufSize", .impl = "eigen_buf_size_vectors", .args = "widthHeight bufSize:size", .checksS = "NZ"},
+  // Mul with a matrix and a vector: each operand's sizes behind its block, the elements touched
+  // as the estimate, Mul's thresholds.
+  {"Mul", "mv", "mulv", kArgsMulMV, "NZHT", "", "NZHR", {}, {}, {}, Rule::Product},
+  {"Mul", "tv", "mulv", kArgsMulMV, "NZHT", "", "NZHR", {}, {}, {}, Rule::Product},
+  {"Mul", "mva", "mulv", kArgsMulMV, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "tva", "mulv", kArgsMulMV, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "mav", "mulv", kArgsMulMV, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "tav", "mulv", kArgsMulMV, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "mava", "mulv", kArgsMulMV, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+  {"Mul", "tava", "mulv", kArgsMulMV, "NCZHT", "NCZHTR", "NCZHTR", "touched", kMul, kMul, Rule::Product},
+
+  // Gaxpy: the matrix times the vector plus src3, whose length the shape rule checks against
+  // the matrix's rows in the same step. One threshold everywhere; the estimate leaves the matrix
+  // out.
+  {"Gaxpy", "mv", "gaxpy", kArgsGaxpy, "NZHT", "", "NZHR", {}, {}, {}, Rule::Product},
+  {"Gaxpy", "mva", "gaxpy", kArgsGaxpy, "NCZHT", "NCZHTR", "NCZHTR", "(src2Len+2*src3Len)*count",
+   thr(5001, 5001, 5001), thr(5001, 5001, 5001), Rule::Product},
+  {"Gaxpy", "mvav", "gaxpy", kArgsGaxpyV, "NCZHT", "NCZHTR", "NCZHTR", "src2Len*count+src3Len*(count+1)",
+   thr(5001, 5001, 5001), thr(5001, 5001, 5001), Rule::Product},
+
+  // Mul with a constant: width and height are dst's (a t source is stored with width rows).
+  // The matrix arrays' LayoutL float strided path goes parallel earlier, LayoutP from 17001;
+  // vca and vaca have one threshold per layout, tested before contiguity.
+  {"Mul", "mc", "mulc", kArgsMulC, "NZT", "", "NZR"},
+  {"Mul", "tc", "mulc", kArgsMulC, "NZT", "", "NZR"},
+  {"Mul", "vc", "mulc", kArgsVC, "NZT", "", "NZR"},
+  {"Mul", "mac", "mulc", kArgsMulC, "NCZT", "NCZTR", "NCZTR", "2*width*height*count",
+   Thr{35001, 35001, 35001, 15001, 17001}, Thr{35001, 35001, 35001, 35001, 17001}},
+  {"Mul", "tac", "mulc", kArgsMulC, "NCZT", "NCZTR", "NCZTR", "2*width*height*count",
+   Thr{35001, 35001, 35001, 15001, 17001}, Thr{35001, 35001, 35001, 35001, 17001}},
+  {"Mul", "vac", "mulc", kArgsVC, "NCZT", "NCZTR", "NCZTR", "2*len*count", kMul, kMul},
+  {"Mul", "vca", "mulc", kArgsVC, "NCZT", "NCZTR", "NCZTR", "len*(count+1)+count",
+   Thr{36865, 36865, 18433, 18433, 9217}, Thr{36865, 36865, 18433, 18433, 9217}},
+  {"Mul", "vaca", "mulc", kArgsVC, "NCZT", "NCZTR", "NCZTR", "count*(2*len+1)",
+   Thr{36865, 36865, 18433, 18433, 9217}, Thr{36865, 36865, 18433, 18433, 9217}},
 };
 
 inline constexpr FamilyDoc kDocs[] = {
@@ -457,6 +496,7 @@ inline constexpr FamilyDoc kDocs[] = {
   {"EigenValuesVectorsRight", "Eigenvalues with the eigenvectors v of transpose(src) v = lambda v in columns, as in EigenValuesVectors."},
   {"EigenValuesGetBufSize", "Bytes of scratch a general eigenvalue member needs for matrices of order widthHeight: widthHeight*(widthHeight+5)*esize."},
   {"EigenValuesVectorsGetBufSize", "Bytes of scratch a general eigenvector member needs for matrices of order widthHeight: widthHeight*(3*widthHeight+5)*esize."},
+  {"Gaxpy", "dst = src1 * src2 + src3 for a matrix read as stored: the products summed, then src3 added to the complete sum."},
 };
 
 inline constexpr Fixed kFixed[] = {

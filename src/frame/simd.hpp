@@ -557,3 +557,77 @@ template <class T> inline Pair<T> select(Pair<T> m, Pair<T> a, Pair<T> b) {
 }
 
 }  // namespace tarn::simd::lanes
+
+// ---- Matrix-vector products -----------------------------------------------------------------
+// A run of Len elements of a row in one register, the lanes behind it zero. Three floats are
+// a pair and a single on the way in and out, so the element behind the third is never touched.
+namespace tarn::simd {
+
+template <int Len>
+inline __m128 loadPart(const float* p) {
+  if constexpr (Len == 3) return _mm_movelh_ps(load<2, false>(p), _mm_load_ss(p + 2));
+  else return load<Len, false>(p);
+}
+template <int Len>
+inline __m128d loadPart(const double* p) {
+  return load<Len, false>(p);
+}
+template <int Len>
+inline void storePart(float* p, __m128 v) {
+  if constexpr (Len == 3) {
+    store<2, false>(p, v);
+    _mm_store_ss(p + 2, _mm_movehl_ps(v, v));
+  } else {
+    store<Len, false>(p, v);
+  }
+}
+template <int Len>
+inline void storePart(double* p, __m128d v) {
+  store<Len, false>(p, v);
+}
+
+// A scalar in lane 0, +0.0 in the other lanes; all lanes +0.0.
+inline __m128 inLow(float s) { return _mm_set_ss(s); }
+inline __m128d inLow(double s) { return _mm_set_sd(s); }
+template <class T> inline Vec<T> zeros() {
+  if constexpr (kLanes<T> == 4) return _mm_setzero_ps();
+  else return _mm_setzero_pd();
+}
+
+// The sum of the lanes of an accumulator: (l0 + l2) + (l1 + l3), or l0 + l1.
+inline float reduce(__m128 v) {
+  const __m128 h = _mm_add_ps(v, _mm_movehl_ps(v, v));
+  return _mm_cvtss_f32(_mm_add_ss(h, _mm_shuffle_ps(h, h, 1)));
+}
+inline double reduce(__m128d v) { return _mm_cvtsd_f64(_mm_add_sd(v, _mm_unpackhi_pd(v, v))); }
+
+// A hint to bring the cache line of address p closer: it never faults and reads nothing the
+// program sees, so p may lie past the end of an operand.
+inline void prefetch(uintptr_t p) { _mm_prefetch(reinterpret_cast<const char*>(p), _MM_HINT_T0); }
+
+// The float pair at p in both halves (p0 p1 p0 p1): a load, no shuffle.
+inline __m128 dupPair(const float* p) { return _mm_castpd_ps(_mm_loaddup_pd(reinterpret_cast<const double*>(p))); }
+// (a0, a1, b0, b1) and (a2, a3, b2, b3), as a pair of doubles moves; (a0 b0 a1 b1), (a2 b2 a3 b3).
+inline __m128 lowHalves(__m128 a, __m128 b) { return _mm_movelh_ps(a, b); }
+inline __m128 highHalves(__m128 a, __m128 b) { return _mm_movehl_ps(b, a); }
+inline __m128 interleaveLow(__m128 a, __m128 b) { return _mm_unpacklo_ps(a, b); }
+inline __m128 interleaveHigh(__m128 a, __m128 b) { return _mm_unpackhi_ps(a, b); }
+
+// Four packed 3-element float objects in three registers (x0 y0 z0 x1 | y1 z1 x2 y2 |
+// z2 x3 y3 z3) and the same as one register per element (x0 x1 x2 x3 | y0 .. | z0 ..).
+inline void unpack3(__m128 r0, __m128 r1, __m128 r2, __m128& x, __m128& y, __m128& z) {
+  const __m128 t0 = _mm_shuffle_ps(r1, r2, _MM_SHUFFLE(2, 1, 3, 2));  // x2 y2 x3 y3
+  const __m128 t1 = _mm_shuffle_ps(r0, r1, _MM_SHUFFLE(1, 0, 2, 1));  // y0 z0 y1 z1
+  x = _mm_shuffle_ps(r0, t0, _MM_SHUFFLE(2, 0, 3, 0));
+  y = _mm_shuffle_ps(t1, t0, _MM_SHUFFLE(3, 1, 2, 0));
+  z = _mm_shuffle_ps(t1, r2, _MM_SHUFFLE(3, 0, 3, 1));
+}
+inline void pack3(__m128 x, __m128 y, __m128 z, __m128& r0, __m128& r1, __m128& r2) {
+  const __m128 lo = _mm_unpacklo_ps(x, y), hi = _mm_unpackhi_ps(x, y);  // x0 y0 x1 y1, x2 y2 x3 y3
+  r0 = _mm_shuffle_ps(lo, _mm_shuffle_ps(z, x, _MM_SHUFFLE(1, 1, 0, 0)), _MM_SHUFFLE(2, 0, 1, 0));
+  r1 = _mm_shuffle_ps(_mm_shuffle_ps(y, z, _MM_SHUFFLE(1, 1, 1, 1)), hi, _MM_SHUFFLE(1, 0, 2, 0));
+  r2 = _mm_shuffle_ps(_mm_shuffle_ps(z, hi, _MM_SHUFFLE(2, 2, 2, 2)), _mm_shuffle_ps(hi, z, _MM_SHUFFLE(3, 3, 3, 3)),
+                      _MM_SHUFFLE(2, 0, 2, 0));
+}
+
+}  // namespace tarn::simd

@@ -236,6 +236,27 @@ TEST(Validation, PinnedOrders) {
       {"tarnEigenValuesVectors_m_32f_P", [](Args& a) { a.op[2].roi = 2; a.order = 0; }, tarnStatusBadSize},
       {"tarnEigenValuesVectorsLeft_m_64f", [](Args& a) { a.op[1].elem = 4; a.order = 0; }, tarnStatusBadSize},
       {"tarnEigenValuesVectorsGetBufSize_32f", [](Args& a) { a.op[0].ptr = nullptr; a.order = 0; }, tarnStatusNullPointer},
+      // Matrix-vector products: the shape step after the sizes, before strides and shifts; m
+      // compares src1Width with src2Len, t src1Height; Gaxpy's src3Len is in the same step.
+      {"tarnMul_mva_32f", [](Args& a) { a.count = 0; a.op[0].w = 0; }, tarnStatusBadCount},
+      {"tarnMul_mva_32f", [](Args& a) { a.op[0].w = 0; a.op[1].w = 4; }, tarnStatusBadSize},
+      {"tarnMul_mva_32f", [](Args& a) { a.op[1].w = 4; a.op[2].elem = 2; }, tarnStatusShapeMismatch},
+      {"tarnMul_mv_32f", [](Args& a) { a.op[0].w = 4; a.op[1].w = 4; a.op[2].elem = 2; }, tarnStatusBadStride},
+      {"tarnMul_tv_32f", [](Args& a) { a.op[0].w = 4; a.op[1].w = 4; a.op[2].elem = 2; }, tarnStatusShapeMismatch},
+      {"tarnMul_tv_32f_P", [](Args& a) { a.op[0].h = 4; a.op[1].w = 3; a.op[2].roi = 2; }, tarnStatusShapeMismatch},
+      {"tarnMul_mav_64f_L", [](Args& a) { a.op[1].elem = 4; a.op[0].roi = 4; }, tarnStatusBadStride},
+      {"tarnMul_mva_32f", [](Args& a) { a.count = 1; a.op[1].obj = 0; }, tarnStatusBadStride},
+      {"tarnGaxpy_mva_32f", [](Args& a) { a.op[2].w = 4; a.op[1].elem = 2; }, tarnStatusShapeMismatch},
+      {"tarnGaxpy_mv_64f_P", [](Args& a) { a.op[2].w = 2; a.op[0].roi = -8; }, tarnStatusShapeMismatch},
+      {"tarnGaxpy_mvav_32f_L", [](Args& a) { a.count = 0; a.op[2].w = 0; }, tarnStatusBadCount},
+      // Products with a constant: vca and vaca check val for null, valObjStride as a stride
+      // (LayoutP too), valRoiShift as a shift.
+      {"tarnMul_vca_32f", [](Args& a) { a.op[1].ptr = nullptr; a.count = 0; }, tarnStatusNullPointer},
+      {"tarnMul_vca_32f_P", [](Args& a) { a.op[1].obj = 2; a.op[0].roi = -4; }, tarnStatusBadStride},
+      {"tarnMul_vaca_64f_P", [](Args& a) { a.op[1].obj = -8; }, tarnStatusBadStride},
+      {"tarnMul_vaca_64f_L", [](Args& a) { a.op[1].roi = 4; }, tarnStatusBadRoiShift},
+      {"tarnMul_mc_32f_P", [](Args& a) { a.width = 0; a.op[0].roi = 2; }, tarnStatusBadSize},
+      {"tarnMul_mac_32f", [](Args& a) { a.count = 1; a.op[0].obj = 0; }, tarnStatusBadStride},
   };
   for (const Case& c : cases) {
     const MemberFn& m = member(c.name);
