@@ -4,6 +4,7 @@
 #include <omp.h>
 
 #include <algorithm>
+#include <atomic>
 #include <mutex>
 #include <vector>
 
@@ -129,10 +130,11 @@ TEST(ParallelWrapper, DriverTakesThePathOfTheStridesAndItsThreshold) {
   for (const Case& k : cases) {
     c.op[0].elem = k.elem;
     c.est = k.est;
-    bool contig = false, region = false;
+    // Written by every thread of a region: atomics, or the test itself races.
+    std::atomic<bool> contig = false, region = false;
     drive<float, Layout::S>(plan, c, [&]<bool Contig>(const Call&) {
       contig = Contig;
-      region |= omp_in_parallel() != 0;
+      if (omp_in_parallel()) region = true;
       return tarnStatusOk;
     });
     EXPECT_EQ(contig, k.contig) << k.elem << " " << k.est;
