@@ -360,6 +360,8 @@ void tripleLoop(const D d, const A a, const V v, const S3 s3, int32_t objects, i
 // (l0 + l2) + (l1 + l3) or l0 + l1, and the products left over added one by one.
 template <class T, int Step>
 T dot(const T* a, const T* v, int32_t len, bool peel) {
+  // v may start off its element boundary (a vector placed at any byte): single elements are read
+  // through loadElem, which is defined at any address.
   constexpr int kL = simd::kLanes<T>, kAcc = Step / kL;
   constexpr int32_t kSize = sizeof(T);
   int32_t head = 0;
@@ -372,10 +374,10 @@ T dot(const T* a, const T* v, int32_t len, bool peel) {
   T s = T(0);
   int32_t k = 0;
   if (!vec || len < head + Step) {
-    for (; k < len; ++k) s = s + a[k] * v[k];
+    for (; k < len; ++k) s = s + loadElem(a + k) * loadElem(v + k);
     return s;
   }
-  for (; k < head; ++k) s = s + a[k] * v[k];
+  for (; k < head; ++k) s = s + loadElem(a + k) * loadElem(v + k);
   simd::Vec<T> acc[kAcc];
   acc[0] = simd::inLow(s);
   for (int j = 1; j < kAcc; ++j) acc[j] = simd::zeros<T>();
@@ -390,7 +392,7 @@ T dot(const T* a, const T* v, int32_t len, bool peel) {
   if constexpr (kAcc == 2) sum = simd::add(acc[0], acc[1]);
   if constexpr (kAcc == 4) sum = simd::add(simd::add(acc[0], acc[1]), simd::add(acc[2], acc[3]));
   T r = simd::reduce(sum);
-  for (; k < len; ++k) r = r + a[k] * v[k];
+  for (; k < len; ++k) r = r + loadElem(a + k) * loadElem(v + k);
   return r;
 }
 
