@@ -165,13 +165,17 @@ def test_statuses_are_named_exceptions():
 
 
 def test_family_names():
-    assert {"add", "sub", "saxpy", "l_comb", "mul", "copy", "extract", "load_identity", "transpose", "dot_product",
+    assert {"add", "sub", "saxpy", "lcomb", "mul", "copy", "extract", "load_identity", "transpose", "dot_product",
             "cross_product", "l2_norm", "frob_norm", "trace"} <= set(tarn.families)
     names = {"LUDecomp": "lu_decomp", "LUBackSubst": "lu_back_subst", "EigenValuesSym": "eigen_values_sym",
              "QRDecomp": "qr_decomp", "L2Norm": "l2_norm", "EigenValuesVectorsGetBufSize":
              "eigen_values_vectors_get_buf_size", "Det": "det"}
     for family, snake in names.items():
         assert tarn.snake_case(family) == snake
+    readable = {"LComb": "lcomb", "AffineTransform3DH": "affine_transform_3dh", "BaryCentric": "barycentric",
+                "LookAtLH": "look_at_lh", "InterpolationCatmullRom": "interpolation_catmull_rom", "MulC": "mul_c"}
+    for family, name in readable.items():
+        assert tarn.names[family] == name and name in tarn.families
 
 
 # tarn.linalg against numpy.linalg on well-conditioned stacks; the tolerance grows with the
