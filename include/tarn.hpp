@@ -1374,7 +1374,7 @@ inline std::error_code add(const vector_elems<const double>& src1, const vector_
 
 // AffineTransform3DH: 3D points as columns through a strided 4x4 matrix, divided by w'; a point with |w'| not above the smallest normal float gets the largest float and the status DivideByZero, and the walk goes on.
 /// tarnAffineTransform3DH_mva_32f
-inline std::error_code affine_transform3_dh(const matrix<const float>& src1, const vector_array<const float>& src2, const vector_array<float>& dst) {
+inline std::error_code affine_transform_3dh(const matrix<const float>& src1, const vector_array<const float>& src2, const vector_array<float>& dst) {
   [[maybe_unused]] const int32_t count = src2.count;
   if (!(dst.count == count &&
         src1.rows == 4 &&
@@ -4105,7 +4105,7 @@ inline std::error_code l2_norm(const vector_elems_array<const double>& src, cons
 
 // LComb: dst = src1*val1 + src2*val2 per element: both products and the sum each rounded, never fused.
 /// tarnLComb_vav_32f
-inline std::error_code l_comb(const vector_array<const float>& src1, float val1, const vector<const float>& src2, float val2, const vector_array<float>& dst) {
+inline std::error_code lcomb(const vector_array<const float>& src1, float val1, const vector<const float>& src2, float val2, const vector_array<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(dst.count == count &&
@@ -4115,7 +4115,7 @@ inline std::error_code l_comb(const vector_array<const float>& src1, float val1,
   return detail::status(::tarnLComb_vav_32f(src1.ptr, src1.obj, src1.elem, val1, src2.ptr, src2.elem, val2, dst.ptr, dst.obj, dst.elem, len, count));
 }
 /// tarnLComb_vav_32f_L
-inline std::error_code l_comb(const vector_table<const float>& src1, float val1, const vector<const float>& src2, float val2, const vector_table<float>& dst) {
+inline std::error_code lcomb(const vector_table<const float>& src1, float val1, const vector<const float>& src2, float val2, const vector_table<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(dst.count == count &&
@@ -4125,7 +4125,7 @@ inline std::error_code l_comb(const vector_table<const float>& src1, float val1,
   return detail::status(::tarnLComb_vav_32f_L(src1.ptr, src1.roi, src1.elem, val1, src2.ptr, src2.elem, val2, dst.ptr, dst.roi, dst.elem, len, count));
 }
 /// tarnLComb_vav_32f_P
-inline std::error_code l_comb(const vector_elems_array<const float>& src1, float val1, const vector_elems<const float>& src2, float val2, const vector_elems_array<float>& dst) {
+inline std::error_code lcomb(const vector_elems_array<const float>& src1, float val1, const vector_elems<const float>& src2, float val2, const vector_elems_array<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(dst.count == count &&
@@ -4135,7 +4135,7 @@ inline std::error_code l_comb(const vector_elems_array<const float>& src1, float
   return detail::status(::tarnLComb_vav_32f_P(src1.ptr, src1.roi, src1.obj, val1, src2.ptr, src2.roi, val2, dst.ptr, dst.roi, dst.obj, len, count));
 }
 /// tarnLComb_vav_64f
-inline std::error_code l_comb(const vector_array<const double>& src1, double val1, const vector<const double>& src2, double val2, const vector_array<double>& dst) {
+inline std::error_code lcomb(const vector_array<const double>& src1, double val1, const vector<const double>& src2, double val2, const vector_array<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(dst.count == count &&
@@ -4145,7 +4145,7 @@ inline std::error_code l_comb(const vector_array<const double>& src1, double val
   return detail::status(::tarnLComb_vav_64f(src1.ptr, src1.obj, src1.elem, val1, src2.ptr, src2.elem, val2, dst.ptr, dst.obj, dst.elem, len, count));
 }
 /// tarnLComb_vav_64f_L
-inline std::error_code l_comb(const vector_table<const double>& src1, double val1, const vector<const double>& src2, double val2, const vector_table<double>& dst) {
+inline std::error_code lcomb(const vector_table<const double>& src1, double val1, const vector<const double>& src2, double val2, const vector_table<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(dst.count == count &&
@@ -4155,7 +4155,7 @@ inline std::error_code l_comb(const vector_table<const double>& src1, double val
   return detail::status(::tarnLComb_vav_64f_L(src1.ptr, src1.roi, src1.elem, val1, src2.ptr, src2.elem, val2, dst.ptr, dst.roi, dst.elem, len, count));
 }
 /// tarnLComb_vav_64f_P
-inline std::error_code l_comb(const vector_elems_array<const double>& src1, double val1, const vector_elems<const double>& src2, double val2, const vector_elems_array<double>& dst) {
+inline std::error_code lcomb(const vector_elems_array<const double>& src1, double val1, const vector_elems<const double>& src2, double val2, const vector_elems_array<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(dst.count == count &&
@@ -4165,7 +4165,7 @@ inline std::error_code l_comb(const vector_elems_array<const double>& src1, doub
   return detail::status(::tarnLComb_vav_64f_P(src1.ptr, src1.roi, src1.obj, val1, src2.ptr, src2.roi, val2, dst.ptr, dst.roi, dst.obj, len, count));
 }
 /// tarnLComb_vava_32f
-inline std::error_code l_comb(const vector_array<const float>& src1, float val1, const vector_array<const float>& src2, float val2, const vector_array<float>& dst) {
+inline std::error_code lcomb(const vector_array<const float>& src1, float val1, const vector_array<const float>& src2, float val2, const vector_array<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(src2.count == count &&
@@ -4176,7 +4176,7 @@ inline std::error_code l_comb(const vector_array<const float>& src1, float val1,
   return detail::status(::tarnLComb_vava_32f(src1.ptr, src1.obj, src1.elem, val1, src2.ptr, src2.obj, src2.elem, val2, dst.ptr, dst.obj, dst.elem, len, count));
 }
 /// tarnLComb_vava_32f_L
-inline std::error_code l_comb(const vector_table<const float>& src1, float val1, const vector_table<const float>& src2, float val2, const vector_table<float>& dst) {
+inline std::error_code lcomb(const vector_table<const float>& src1, float val1, const vector_table<const float>& src2, float val2, const vector_table<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(src2.count == count &&
@@ -4187,7 +4187,7 @@ inline std::error_code l_comb(const vector_table<const float>& src1, float val1,
   return detail::status(::tarnLComb_vava_32f_L(src1.ptr, src1.roi, src1.elem, val1, src2.ptr, src2.roi, src2.elem, val2, dst.ptr, dst.roi, dst.elem, len, count));
 }
 /// tarnLComb_vava_32f_P
-inline std::error_code l_comb(const vector_elems_array<const float>& src1, float val1, const vector_elems_array<const float>& src2, float val2, const vector_elems_array<float>& dst) {
+inline std::error_code lcomb(const vector_elems_array<const float>& src1, float val1, const vector_elems_array<const float>& src2, float val2, const vector_elems_array<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(src2.count == count &&
@@ -4198,7 +4198,7 @@ inline std::error_code l_comb(const vector_elems_array<const float>& src1, float
   return detail::status(::tarnLComb_vava_32f_P(src1.ptr, src1.roi, src1.obj, val1, src2.ptr, src2.roi, src2.obj, val2, dst.ptr, dst.roi, dst.obj, len, count));
 }
 /// tarnLComb_vava_64f
-inline std::error_code l_comb(const vector_array<const double>& src1, double val1, const vector_array<const double>& src2, double val2, const vector_array<double>& dst) {
+inline std::error_code lcomb(const vector_array<const double>& src1, double val1, const vector_array<const double>& src2, double val2, const vector_array<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(src2.count == count &&
@@ -4209,7 +4209,7 @@ inline std::error_code l_comb(const vector_array<const double>& src1, double val
   return detail::status(::tarnLComb_vava_64f(src1.ptr, src1.obj, src1.elem, val1, src2.ptr, src2.obj, src2.elem, val2, dst.ptr, dst.obj, dst.elem, len, count));
 }
 /// tarnLComb_vava_64f_L
-inline std::error_code l_comb(const vector_table<const double>& src1, double val1, const vector_table<const double>& src2, double val2, const vector_table<double>& dst) {
+inline std::error_code lcomb(const vector_table<const double>& src1, double val1, const vector_table<const double>& src2, double val2, const vector_table<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(src2.count == count &&
@@ -4220,7 +4220,7 @@ inline std::error_code l_comb(const vector_table<const double>& src1, double val
   return detail::status(::tarnLComb_vava_64f_L(src1.ptr, src1.roi, src1.elem, val1, src2.ptr, src2.roi, src2.elem, val2, dst.ptr, dst.roi, dst.elem, len, count));
 }
 /// tarnLComb_vava_64f_P
-inline std::error_code l_comb(const vector_elems_array<const double>& src1, double val1, const vector_elems_array<const double>& src2, double val2, const vector_elems_array<double>& dst) {
+inline std::error_code lcomb(const vector_elems_array<const double>& src1, double val1, const vector_elems_array<const double>& src2, double val2, const vector_elems_array<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(src2.count == count &&
@@ -4231,7 +4231,7 @@ inline std::error_code l_comb(const vector_elems_array<const double>& src1, doub
   return detail::status(::tarnLComb_vava_64f_P(src1.ptr, src1.roi, src1.obj, val1, src2.ptr, src2.roi, src2.obj, val2, dst.ptr, dst.roi, dst.obj, len, count));
 }
 /// tarnLComb_vv_32f
-inline std::error_code l_comb(const vector<const float>& src1, float val1, const vector<const float>& src2, float val2, const vector<float>& dst) {
+inline std::error_code lcomb(const vector<const float>& src1, float val1, const vector<const float>& src2, float val2, const vector<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = 1;
   if (!(src2.len == len &&
@@ -4240,7 +4240,7 @@ inline std::error_code l_comb(const vector<const float>& src1, float val1, const
   return detail::status(::tarnLComb_vv_32f(src1.ptr, src1.elem, val1, src2.ptr, src2.elem, val2, dst.ptr, dst.elem, len));
 }
 /// tarnLComb_vv_32f_P
-inline std::error_code l_comb(const vector_elems<const float>& src1, float val1, const vector_elems<const float>& src2, float val2, const vector_elems<float>& dst) {
+inline std::error_code lcomb(const vector_elems<const float>& src1, float val1, const vector_elems<const float>& src2, float val2, const vector_elems<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = 1;
   if (!(src2.len == len &&
@@ -4249,7 +4249,7 @@ inline std::error_code l_comb(const vector_elems<const float>& src1, float val1,
   return detail::status(::tarnLComb_vv_32f_P(src1.ptr, src1.roi, val1, src2.ptr, src2.roi, val2, dst.ptr, dst.roi, len));
 }
 /// tarnLComb_vv_64f
-inline std::error_code l_comb(const vector<const double>& src1, double val1, const vector<const double>& src2, double val2, const vector<double>& dst) {
+inline std::error_code lcomb(const vector<const double>& src1, double val1, const vector<const double>& src2, double val2, const vector<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = 1;
   if (!(src2.len == len &&
@@ -4258,7 +4258,7 @@ inline std::error_code l_comb(const vector<const double>& src1, double val1, con
   return detail::status(::tarnLComb_vv_64f(src1.ptr, src1.elem, val1, src2.ptr, src2.elem, val2, dst.ptr, dst.elem, len));
 }
 /// tarnLComb_vv_64f_P
-inline std::error_code l_comb(const vector_elems<const double>& src1, double val1, const vector_elems<const double>& src2, double val2, const vector_elems<double>& dst) {
+inline std::error_code lcomb(const vector_elems<const double>& src1, double val1, const vector_elems<const double>& src2, double val2, const vector_elems<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = 1;
   if (!(src2.len == len &&
@@ -9369,9 +9369,9 @@ inline std::error_code affine_transform_m4v3(const float* matrix, const float* s
 inline std::error_code affine_transform_m4v3a(const float* matrix, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count) { return detail::status(::tarnAffineTransform_m4v3a_32f(matrix, src, srcStride, dst, dstStride, count)); }
 inline std::error_code affine_transform_m4v4(const float* matrix, const float* src, float* dst) { return detail::status(::tarnAffineTransform_m4v4_32f(matrix, src, dst)); }
 inline std::error_code affine_transform_m4v4a(const float* matrix, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count) { return detail::status(::tarnAffineTransform_m4v4a_32f(matrix, src, srcStride, dst, dstStride, count)); }
-inline std::error_code bary_centric_v2(const float* src1, const float* src2, const float* src3, float f, float g, float* dst) { return detail::status(::tarnBaryCentric_v2_32f(src1, src2, src3, f, g, dst)); }
-inline std::error_code bary_centric_v3(const float* src1, const float* src2, const float* src3, float f, float g, float* dst) { return detail::status(::tarnBaryCentric_v3_32f(src1, src2, src3, f, g, dst)); }
-inline std::error_code bary_centric_v4(const float* src1, const float* src2, const float* src3, float f, float g, float* dst) { return detail::status(::tarnBaryCentric_v4_32f(src1, src2, src3, f, g, dst)); }
+inline std::error_code barycentric_v2(const float* src1, const float* src2, const float* src3, float f, float g, float* dst) { return detail::status(::tarnBaryCentric_v2_32f(src1, src2, src3, f, g, dst)); }
+inline std::error_code barycentric_v3(const float* src1, const float* src2, const float* src3, float f, float g, float* dst) { return detail::status(::tarnBaryCentric_v3_32f(src1, src2, src3, f, g, dst)); }
+inline std::error_code barycentric_v4(const float* src1, const float* src2, const float* src3, float f, float g, float* dst) { return detail::status(::tarnBaryCentric_v4_32f(src1, src2, src3, f, g, dst)); }
 inline std::error_code cross_product_v2(const float* src1, const float* src2, float* dst) { return detail::status(::tarnCrossProduct_v2_32f(src1, src2, dst)); }
 inline std::error_code cross_product_v3(const float* src1, const float* src2, float* dst) { return detail::status(::tarnCrossProduct_v3_32f(src1, src2, dst)); }
 inline std::error_code cross_product_v4(const float* src1, const float* src2, const float* src3, float* dst) { return detail::status(::tarnCrossProduct_v4_32f(src1, src2, src3, dst)); }
@@ -9452,7 +9452,7 @@ auto add_v3(A&&... a) -> decltype(void(tarn::add_v3(std::forward<A>(a)...))) { d
 template <class... A>
 auto add_v4(A&&... a) -> decltype(void(tarn::add_v4(std::forward<A>(a)...))) { detail::raise(tarn::add_v4(std::forward<A>(a)...)); }
 template <class... A>
-auto affine_transform3_dh(A&&... a) -> decltype(void(tarn::affine_transform3_dh(std::forward<A>(a)...))) { detail::raise(tarn::affine_transform3_dh(std::forward<A>(a)...)); }
+auto affine_transform_3dh(A&&... a) -> decltype(void(tarn::affine_transform_3dh(std::forward<A>(a)...))) { detail::raise(tarn::affine_transform_3dh(std::forward<A>(a)...)); }
 template <class... A>
 auto affine_transform_coord_m4v2(A&&... a) -> decltype(void(tarn::affine_transform_coord_m4v2(std::forward<A>(a)...))) { detail::raise(tarn::affine_transform_coord_m4v2(std::forward<A>(a)...)); }
 template <class... A>
@@ -9482,11 +9482,11 @@ auto affine_transform_normal_m4v3(A&&... a) -> decltype(void(tarn::affine_transf
 template <class... A>
 auto affine_transform_normal_m4v3a(A&&... a) -> decltype(void(tarn::affine_transform_normal_m4v3a(std::forward<A>(a)...))) { detail::raise(tarn::affine_transform_normal_m4v3a(std::forward<A>(a)...)); }
 template <class... A>
-auto bary_centric_v2(A&&... a) -> decltype(void(tarn::bary_centric_v2(std::forward<A>(a)...))) { detail::raise(tarn::bary_centric_v2(std::forward<A>(a)...)); }
+auto barycentric_v2(A&&... a) -> decltype(void(tarn::barycentric_v2(std::forward<A>(a)...))) { detail::raise(tarn::barycentric_v2(std::forward<A>(a)...)); }
 template <class... A>
-auto bary_centric_v3(A&&... a) -> decltype(void(tarn::bary_centric_v3(std::forward<A>(a)...))) { detail::raise(tarn::bary_centric_v3(std::forward<A>(a)...)); }
+auto barycentric_v3(A&&... a) -> decltype(void(tarn::barycentric_v3(std::forward<A>(a)...))) { detail::raise(tarn::barycentric_v3(std::forward<A>(a)...)); }
 template <class... A>
-auto bary_centric_v4(A&&... a) -> decltype(void(tarn::bary_centric_v4(std::forward<A>(a)...))) { detail::raise(tarn::bary_centric_v4(std::forward<A>(a)...)); }
+auto barycentric_v4(A&&... a) -> decltype(void(tarn::barycentric_v4(std::forward<A>(a)...))) { detail::raise(tarn::barycentric_v4(std::forward<A>(a)...)); }
 template <class... A>
 auto cholesky_back_subst(A&&... a) -> decltype(void(tarn::cholesky_back_subst(std::forward<A>(a)...))) { detail::raise(tarn::cholesky_back_subst(std::forward<A>(a)...)); }
 template <class... A>
@@ -9564,7 +9564,7 @@ auto is_identity_m4(A&&... a) -> decltype(void(tarn::is_identity_m4(std::forward
 template <class... A>
 auto l2_norm(A&&... a) -> decltype(void(tarn::l2_norm(std::forward<A>(a)...))) { detail::raise(tarn::l2_norm(std::forward<A>(a)...)); }
 template <class... A>
-auto l_comb(A&&... a) -> decltype(void(tarn::l_comb(std::forward<A>(a)...))) { detail::raise(tarn::l_comb(std::forward<A>(a)...)); }
+auto lcomb(A&&... a) -> decltype(void(tarn::lcomb(std::forward<A>(a)...))) { detail::raise(tarn::lcomb(std::forward<A>(a)...)); }
 template <class... A>
 auto len_sqr_v2(A&&... a) -> decltype(void(tarn::len_sqr_v2(std::forward<A>(a)...))) { detail::raise(tarn::len_sqr_v2(std::forward<A>(a)...)); }
 template <class... A>
