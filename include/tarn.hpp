@@ -1374,7 +1374,7 @@ inline std::error_code add(const vector_elems<const double>& src1, const vector_
 
 // AffineTransform3DH: 3D points as columns through a strided 4x4 matrix, divided by w'; a point with |w'| not above the smallest normal float gets the largest float and the status DivideByZero, and the walk goes on.
 /// tarnAffineTransform3DH_mva_32f
-inline std::error_code affine_transform3_dh(const matrix<const float>& src1, const vector_array<const float>& src2, const vector_array<float>& dst) {
+inline std::error_code affine_transform_3dh(const matrix<const float>& src1, const vector_array<const float>& src2, const vector_array<float>& dst) {
   [[maybe_unused]] const int32_t count = src2.count;
   if (!(dst.count == count &&
         src1.rows == 4 &&
@@ -4105,7 +4105,7 @@ inline std::error_code l2_norm(const vector_elems_array<const double>& src, cons
 
 // LComb: dst = src1*val1 + src2*val2 per element: both products and the sum each rounded, never fused.
 /// tarnLComb_vav_32f
-inline std::error_code l_comb(const vector_array<const float>& src1, float val1, const vector<const float>& src2, float val2, const vector_array<float>& dst) {
+inline std::error_code lcomb(const vector_array<const float>& src1, float val1, const vector<const float>& src2, float val2, const vector_array<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(dst.count == count &&
@@ -4115,7 +4115,7 @@ inline std::error_code l_comb(const vector_array<const float>& src1, float val1,
   return detail::status(::tarnLComb_vav_32f(src1.ptr, src1.obj, src1.elem, val1, src2.ptr, src2.elem, val2, dst.ptr, dst.obj, dst.elem, len, count));
 }
 /// tarnLComb_vav_32f_L
-inline std::error_code l_comb(const vector_table<const float>& src1, float val1, const vector<const float>& src2, float val2, const vector_table<float>& dst) {
+inline std::error_code lcomb(const vector_table<const float>& src1, float val1, const vector<const float>& src2, float val2, const vector_table<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(dst.count == count &&
@@ -4125,7 +4125,7 @@ inline std::error_code l_comb(const vector_table<const float>& src1, float val1,
   return detail::status(::tarnLComb_vav_32f_L(src1.ptr, src1.roi, src1.elem, val1, src2.ptr, src2.elem, val2, dst.ptr, dst.roi, dst.elem, len, count));
 }
 /// tarnLComb_vav_32f_P
-inline std::error_code l_comb(const vector_elems_array<const float>& src1, float val1, const vector_elems<const float>& src2, float val2, const vector_elems_array<float>& dst) {
+inline std::error_code lcomb(const vector_elems_array<const float>& src1, float val1, const vector_elems<const float>& src2, float val2, const vector_elems_array<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(dst.count == count &&
@@ -4135,7 +4135,7 @@ inline std::error_code l_comb(const vector_elems_array<const float>& src1, float
   return detail::status(::tarnLComb_vav_32f_P(src1.ptr, src1.roi, src1.obj, val1, src2.ptr, src2.roi, val2, dst.ptr, dst.roi, dst.obj, len, count));
 }
 /// tarnLComb_vav_64f
-inline std::error_code l_comb(const vector_array<const double>& src1, double val1, const vector<const double>& src2, double val2, const vector_array<double>& dst) {
+inline std::error_code lcomb(const vector_array<const double>& src1, double val1, const vector<const double>& src2, double val2, const vector_array<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(dst.count == count &&
@@ -4145,7 +4145,7 @@ inline std::error_code l_comb(const vector_array<const double>& src1, double val
   return detail::status(::tarnLComb_vav_64f(src1.ptr, src1.obj, src1.elem, val1, src2.ptr, src2.elem, val2, dst.ptr, dst.obj, dst.elem, len, count));
 }
 /// tarnLComb_vav_64f_L
-inline std::error_code l_comb(const vector_table<const double>& src1, double val1, const vector<const double>& src2, double val2, const vector_table<double>& dst) {
+inline std::error_code lcomb(const vector_table<const double>& src1, double val1, const vector<const double>& src2, double val2, const vector_table<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(dst.count == count &&
@@ -4155,7 +4155,7 @@ inline std::error_code l_comb(const vector_table<const double>& src1, double val
   return detail::status(::tarnLComb_vav_64f_L(src1.ptr, src1.roi, src1.elem, val1, src2.ptr, src2.elem, val2, dst.ptr, dst.roi, dst.elem, len, count));
 }
 /// tarnLComb_vav_64f_P
-inline std::error_code l_comb(const vector_elems_array<const double>& src1, double val1, const vector_elems<const double>& src2, double val2, const vector_elems_array<double>& dst) {
+inline std::error_code lcomb(const vector_elems_array<const double>& src1, double val1, const vector_elems<const double>& src2, double val2, const vector_elems_array<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(dst.count == count &&
@@ -4165,7 +4165,7 @@ inline std::error_code l_comb(const vector_elems_array<const double>& src1, doub
   return detail::status(::tarnLComb_vav_64f_P(src1.ptr, src1.roi, src1.obj, val1, src2.ptr, src2.roi, val2, dst.ptr, dst.roi, dst.obj, len, count));
 }
 /// tarnLComb_vava_32f
-inline std::error_code l_comb(const vector_array<const float>& src1, float val1, const vector_array<const float>& src2, float val2, const vector_array<float>& dst) {
+inline std::error_code lcomb(const vector_array<const float>& src1, float val1, const vector_array<const float>& src2, float val2, const vector_array<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(src2.count == count &&
@@ -4176,7 +4176,7 @@ inline std::error_code l_comb(const vector_array<const float>& src1, float val1,
   return detail::status(::tarnLComb_vava_32f(src1.ptr, src1.obj, src1.elem, val1, src2.ptr, src2.obj, src2.elem, val2, dst.ptr, dst.obj, dst.elem, len, count));
 }
 /// tarnLComb_vava_32f_L
-inline std::error_code l_comb(const vector_table<const float>& src1, float val1, const vector_table<const float>& src2, float val2, const vector_table<float>& dst) {
+inline std::error_code lcomb(const vector_table<const float>& src1, float val1, const vector_table<const float>& src2, float val2, const vector_table<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(src2.count == count &&
@@ -4187,7 +4187,7 @@ inline std::error_code l_comb(const vector_table<const float>& src1, float val1,
   return detail::status(::tarnLComb_vava_32f_L(src1.ptr, src1.roi, src1.elem, val1, src2.ptr, src2.roi, src2.elem, val2, dst.ptr, dst.roi, dst.elem, len, count));
 }
 /// tarnLComb_vava_32f_P
-inline std::error_code l_comb(const vector_elems_array<const float>& src1, float val1, const vector_elems_array<const float>& src2, float val2, const vector_elems_array<float>& dst) {
+inline std::error_code lcomb(const vector_elems_array<const float>& src1, float val1, const vector_elems_array<const float>& src2, float val2, const vector_elems_array<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(src2.count == count &&
@@ -4198,7 +4198,7 @@ inline std::error_code l_comb(const vector_elems_array<const float>& src1, float
   return detail::status(::tarnLComb_vava_32f_P(src1.ptr, src1.roi, src1.obj, val1, src2.ptr, src2.roi, src2.obj, val2, dst.ptr, dst.roi, dst.obj, len, count));
 }
 /// tarnLComb_vava_64f
-inline std::error_code l_comb(const vector_array<const double>& src1, double val1, const vector_array<const double>& src2, double val2, const vector_array<double>& dst) {
+inline std::error_code lcomb(const vector_array<const double>& src1, double val1, const vector_array<const double>& src2, double val2, const vector_array<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(src2.count == count &&
@@ -4209,7 +4209,7 @@ inline std::error_code l_comb(const vector_array<const double>& src1, double val
   return detail::status(::tarnLComb_vava_64f(src1.ptr, src1.obj, src1.elem, val1, src2.ptr, src2.obj, src2.elem, val2, dst.ptr, dst.obj, dst.elem, len, count));
 }
 /// tarnLComb_vava_64f_L
-inline std::error_code l_comb(const vector_table<const double>& src1, double val1, const vector_table<const double>& src2, double val2, const vector_table<double>& dst) {
+inline std::error_code lcomb(const vector_table<const double>& src1, double val1, const vector_table<const double>& src2, double val2, const vector_table<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(src2.count == count &&
@@ -4220,7 +4220,7 @@ inline std::error_code l_comb(const vector_table<const double>& src1, double val
   return detail::status(::tarnLComb_vava_64f_L(src1.ptr, src1.roi, src1.elem, val1, src2.ptr, src2.roi, src2.elem, val2, dst.ptr, dst.roi, dst.elem, len, count));
 }
 /// tarnLComb_vava_64f_P
-inline std::error_code l_comb(const vector_elems_array<const double>& src1, double val1, const vector_elems_array<const double>& src2, double val2, const vector_elems_array<double>& dst) {
+inline std::error_code lcomb(const vector_elems_array<const double>& src1, double val1, const vector_elems_array<const double>& src2, double val2, const vector_elems_array<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = src1.count;
   if (!(src2.count == count &&
@@ -4231,7 +4231,7 @@ inline std::error_code l_comb(const vector_elems_array<const double>& src1, doub
   return detail::status(::tarnLComb_vava_64f_P(src1.ptr, src1.roi, src1.obj, val1, src2.ptr, src2.roi, src2.obj, val2, dst.ptr, dst.roi, dst.obj, len, count));
 }
 /// tarnLComb_vv_32f
-inline std::error_code l_comb(const vector<const float>& src1, float val1, const vector<const float>& src2, float val2, const vector<float>& dst) {
+inline std::error_code lcomb(const vector<const float>& src1, float val1, const vector<const float>& src2, float val2, const vector<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = 1;
   if (!(src2.len == len &&
@@ -4240,7 +4240,7 @@ inline std::error_code l_comb(const vector<const float>& src1, float val1, const
   return detail::status(::tarnLComb_vv_32f(src1.ptr, src1.elem, val1, src2.ptr, src2.elem, val2, dst.ptr, dst.elem, len));
 }
 /// tarnLComb_vv_32f_P
-inline std::error_code l_comb(const vector_elems<const float>& src1, float val1, const vector_elems<const float>& src2, float val2, const vector_elems<float>& dst) {
+inline std::error_code lcomb(const vector_elems<const float>& src1, float val1, const vector_elems<const float>& src2, float val2, const vector_elems<float>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = 1;
   if (!(src2.len == len &&
@@ -4249,7 +4249,7 @@ inline std::error_code l_comb(const vector_elems<const float>& src1, float val1,
   return detail::status(::tarnLComb_vv_32f_P(src1.ptr, src1.roi, val1, src2.ptr, src2.roi, val2, dst.ptr, dst.roi, len));
 }
 /// tarnLComb_vv_64f
-inline std::error_code l_comb(const vector<const double>& src1, double val1, const vector<const double>& src2, double val2, const vector<double>& dst) {
+inline std::error_code lcomb(const vector<const double>& src1, double val1, const vector<const double>& src2, double val2, const vector<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = 1;
   if (!(src2.len == len &&
@@ -4258,7 +4258,7 @@ inline std::error_code l_comb(const vector<const double>& src1, double val1, con
   return detail::status(::tarnLComb_vv_64f(src1.ptr, src1.elem, val1, src2.ptr, src2.elem, val2, dst.ptr, dst.elem, len));
 }
 /// tarnLComb_vv_64f_P
-inline std::error_code l_comb(const vector_elems<const double>& src1, double val1, const vector_elems<const double>& src2, double val2, const vector_elems<double>& dst) {
+inline std::error_code lcomb(const vector_elems<const double>& src1, double val1, const vector_elems<const double>& src2, double val2, const vector_elems<double>& dst) {
   const int32_t len = src1.len;
   [[maybe_unused]] const int32_t count = 1;
   if (!(src2.len == len &&
@@ -9369,9 +9369,9 @@ inline std::error_code affine_transform_m4v3(const float* matrix, const float* s
 inline std::error_code affine_transform_m4v3a(const float* matrix, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count) { return detail::status(::tarnAffineTransform_m4v3a_32f(matrix, src, srcStride, dst, dstStride, count)); }
 inline std::error_code affine_transform_m4v4(const float* matrix, const float* src, float* dst) { return detail::status(::tarnAffineTransform_m4v4_32f(matrix, src, dst)); }
 inline std::error_code affine_transform_m4v4a(const float* matrix, const float* src, int32_t srcStride, float* dst, int32_t dstStride, int32_t count) { return detail::status(::tarnAffineTransform_m4v4a_32f(matrix, src, srcStride, dst, dstStride, count)); }
-inline std::error_code bary_centric_v2(const float* src1, const float* src2, const float* src3, float f, float g, float* dst) { return detail::status(::tarnBaryCentric_v2_32f(src1, src2, src3, f, g, dst)); }
-inline std::error_code bary_centric_v3(const float* src1, const float* src2, const float* src3, float f, float g, float* dst) { return detail::status(::tarnBaryCentric_v3_32f(src1, src2, src3, f, g, dst)); }
-inline std::error_code bary_centric_v4(const float* src1, const float* src2, const float* src3, float f, float g, float* dst) { return detail::status(::tarnBaryCentric_v4_32f(src1, src2, src3, f, g, dst)); }
+inline std::error_code barycentric_v2(const float* src1, const float* src2, const float* src3, float f, float g, float* dst) { return detail::status(::tarnBaryCentric_v2_32f(src1, src2, src3, f, g, dst)); }
+inline std::error_code barycentric_v3(const float* src1, const float* src2, const float* src3, float f, float g, float* dst) { return detail::status(::tarnBaryCentric_v3_32f(src1, src2, src3, f, g, dst)); }
+inline std::error_code barycentric_v4(const float* src1, const float* src2, const float* src3, float f, float g, float* dst) { return detail::status(::tarnBaryCentric_v4_32f(src1, src2, src3, f, g, dst)); }
 inline std::error_code cross_product_v2(const float* src1, const float* src2, float* dst) { return detail::status(::tarnCrossProduct_v2_32f(src1, src2, dst)); }
 inline std::error_code cross_product_v3(const float* src1, const float* src2, float* dst) { return detail::status(::tarnCrossProduct_v3_32f(src1, src2, dst)); }
 inline std::error_code cross_product_v4(const float* src1, const float* src2, const float* src3, float* dst) { return detail::status(::tarnCrossProduct_v4_32f(src1, src2, src3, dst)); }
@@ -9439,6 +9439,162 @@ inline std::error_code transpose_m4(const float* src, float* dst) { return detai
 inline std::error_code unproject_m4v3(const float* projection, const float* view, const float* world, const float* src, float viewportWidth, float viewportHeight, float minZ, float maxZ, float* dst) { return detail::status(::tarnUnproject_m4v3_32f(projection, view, world, src, viewportWidth, viewportHeight, minZ, maxZ, dst)); }
 inline std::error_code unproject_m4v3a(const float* projection, const float* view, const float* world, const float* src, int32_t srcStride, float viewportWidth, float viewportHeight, float minZ, float maxZ, float* dst, int32_t dstStride, int32_t count) { return detail::status(::tarnUnproject_m4v3a_32f(projection, view, world, src, srcStride, viewportWidth, viewportHeight, minZ, maxZ, dst, dstStride, count)); }
 
+// Fixed-size members, typed: objects as spans of their length, named after the family.
+/// tarnAdd_v2_32f
+inline std::error_code add(std::span<const float, 2> src1, std::span<const float, 2> src2, std::span<float, 2> dst) { return detail::status(::tarnAdd_v2_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnAdd_v3_32f
+inline std::error_code add(std::span<const float, 3> src1, std::span<const float, 3> src2, std::span<float, 3> dst) { return detail::status(::tarnAdd_v3_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnAdd_v4_32f
+inline std::error_code add(std::span<const float, 4> src1, std::span<const float, 4> src2, std::span<float, 4> dst) { return detail::status(::tarnAdd_v4_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnAffineTransformCoord_m4v2_32f
+inline std::error_code affine_transform_coord(std::span<const float, 16> matrix, std::span<const float, 2> src, std::span<float, 2> dst) { return detail::status(::tarnAffineTransformCoord_m4v2_32f(matrix.data(), src.data(), dst.data())); }
+/// tarnAffineTransformCoord_m4v3_32f
+inline std::error_code affine_transform_coord(std::span<const float, 16> matrix, std::span<const float, 3> src, std::span<float, 3> dst) { return detail::status(::tarnAffineTransformCoord_m4v3_32f(matrix.data(), src.data(), dst.data())); }
+/// tarnAffineTransformNormal_m4v2_32f
+inline std::error_code affine_transform_normal(std::span<const float, 16> matrix, std::span<const float, 2> src, std::span<float, 2> dst) { return detail::status(::tarnAffineTransformNormal_m4v2_32f(matrix.data(), src.data(), dst.data())); }
+/// tarnAffineTransformNormal_m4v3_32f
+inline std::error_code affine_transform_normal(std::span<const float, 16> matrix, std::span<const float, 3> src, std::span<float, 3> dst) { return detail::status(::tarnAffineTransformNormal_m4v3_32f(matrix.data(), src.data(), dst.data())); }
+/// tarnAffineTransform_m4v2_32f
+inline std::error_code affine_transform(std::span<const float, 16> matrix, std::span<const float, 2> src, std::span<float, 4> dst) { return detail::status(::tarnAffineTransform_m4v2_32f(matrix.data(), src.data(), dst.data())); }
+/// tarnAffineTransform_m4v3_32f
+inline std::error_code affine_transform(std::span<const float, 16> matrix, std::span<const float, 3> src, std::span<float, 4> dst) { return detail::status(::tarnAffineTransform_m4v3_32f(matrix.data(), src.data(), dst.data())); }
+/// tarnAffineTransform_m4v4_32f
+inline std::error_code affine_transform(std::span<const float, 16> matrix, std::span<const float, 4> src, std::span<float, 4> dst) { return detail::status(::tarnAffineTransform_m4v4_32f(matrix.data(), src.data(), dst.data())); }
+/// tarnBaryCentric_v2_32f
+inline std::error_code barycentric(std::span<const float, 2> src1, std::span<const float, 2> src2, std::span<const float, 2> src3, float f, float g, std::span<float, 2> dst) { return detail::status(::tarnBaryCentric_v2_32f(src1.data(), src2.data(), src3.data(), f, g, dst.data())); }
+/// tarnBaryCentric_v3_32f
+inline std::error_code barycentric(std::span<const float, 3> src1, std::span<const float, 3> src2, std::span<const float, 3> src3, float f, float g, std::span<float, 3> dst) { return detail::status(::tarnBaryCentric_v3_32f(src1.data(), src2.data(), src3.data(), f, g, dst.data())); }
+/// tarnBaryCentric_v4_32f
+inline std::error_code barycentric(std::span<const float, 4> src1, std::span<const float, 4> src2, std::span<const float, 4> src3, float f, float g, std::span<float, 4> dst) { return detail::status(::tarnBaryCentric_v4_32f(src1.data(), src2.data(), src3.data(), f, g, dst.data())); }
+/// tarnCrossProduct_v2_32f
+inline std::error_code cross_product(std::span<const float, 2> src1, std::span<const float, 2> src2, float& dst) { return detail::status(::tarnCrossProduct_v2_32f(src1.data(), src2.data(), &dst)); }
+/// tarnCrossProduct_v3_32f
+inline std::error_code cross_product(std::span<const float, 3> src1, std::span<const float, 3> src2, std::span<float, 3> dst) { return detail::status(::tarnCrossProduct_v3_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnCrossProduct_v4_32f
+inline std::error_code cross_product(std::span<const float, 4> src1, std::span<const float, 4> src2, std::span<const float, 4> src3, std::span<float, 4> dst) { return detail::status(::tarnCrossProduct_v4_32f(src1.data(), src2.data(), src3.data(), dst.data())); }
+/// tarnDet_m4_32f
+inline std::error_code det(std::span<const float, 16> src, float& dst) { return detail::status(::tarnDet_m4_32f(src.data(), &dst)); }
+/// tarnDotProduct_v2_32f
+inline std::error_code dot_product(std::span<const float, 2> src1, std::span<const float, 2> src2, float& dst) { return detail::status(::tarnDotProduct_v2_32f(src1.data(), src2.data(), &dst)); }
+/// tarnDotProduct_v3_32f
+inline std::error_code dot_product(std::span<const float, 3> src1, std::span<const float, 3> src2, float& dst) { return detail::status(::tarnDotProduct_v3_32f(src1.data(), src2.data(), &dst)); }
+/// tarnDotProduct_v4_32f
+inline std::error_code dot_product(std::span<const float, 4> src1, std::span<const float, 4> src2, float& dst) { return detail::status(::tarnDotProduct_v4_32f(src1.data(), src2.data(), &dst)); }
+/// tarnHermite_v2_32f
+inline std::error_code hermite(std::span<const float, 2> src1, std::span<const float, 2> src2, std::span<const float, 2> src3, std::span<const float, 2> src4, float s, std::span<float, 2> dst) { return detail::status(::tarnHermite_v2_32f(src1.data(), src2.data(), src3.data(), src4.data(), s, dst.data())); }
+/// tarnHermite_v3_32f
+inline std::error_code hermite(std::span<const float, 3> src1, std::span<const float, 3> src2, std::span<const float, 3> src3, std::span<const float, 3> src4, float s, std::span<float, 3> dst) { return detail::status(::tarnHermite_v3_32f(src1.data(), src2.data(), src3.data(), src4.data(), s, dst.data())); }
+/// tarnHermite_v4_32f
+inline std::error_code hermite(std::span<const float, 4> src1, std::span<const float, 4> src2, std::span<const float, 4> src3, std::span<const float, 4> src4, float s, std::span<float, 4> dst) { return detail::status(::tarnHermite_v4_32f(src1.data(), src2.data(), src3.data(), src4.data(), s, dst.data())); }
+/// tarnIdentity_m4_32f
+inline std::error_code identity(std::span<float, 16> dst) { return detail::status(::tarnIdentity_m4_32f(dst.data())); }
+/// tarnInterpolationCatmullRom_v2_32f
+inline std::error_code interpolation_catmull_rom(std::span<const float, 2> src1, std::span<const float, 2> src2, std::span<const float, 2> src3, std::span<const float, 2> src4, float s, std::span<float, 2> dst) { return detail::status(::tarnInterpolationCatmullRom_v2_32f(src1.data(), src2.data(), src3.data(), src4.data(), s, dst.data())); }
+/// tarnInterpolationCatmullRom_v3_32f
+inline std::error_code interpolation_catmull_rom(std::span<const float, 3> src1, std::span<const float, 3> src2, std::span<const float, 3> src3, std::span<const float, 3> src4, float s, std::span<float, 3> dst) { return detail::status(::tarnInterpolationCatmullRom_v3_32f(src1.data(), src2.data(), src3.data(), src4.data(), s, dst.data())); }
+/// tarnInterpolationCatmullRom_v4_32f
+inline std::error_code interpolation_catmull_rom(std::span<const float, 4> src1, std::span<const float, 4> src2, std::span<const float, 4> src3, std::span<const float, 4> src4, float s, std::span<float, 4> dst) { return detail::status(::tarnInterpolationCatmullRom_v4_32f(src1.data(), src2.data(), src3.data(), src4.data(), s, dst.data())); }
+/// tarnInterpolationLinear_v2_32f
+inline std::error_code interpolation_linear(std::span<const float, 2> src1, std::span<const float, 2> src2, float s, std::span<float, 2> dst) { return detail::status(::tarnInterpolationLinear_v2_32f(src1.data(), src2.data(), s, dst.data())); }
+/// tarnInterpolationLinear_v3_32f
+inline std::error_code interpolation_linear(std::span<const float, 3> src1, std::span<const float, 3> src2, float s, std::span<float, 3> dst) { return detail::status(::tarnInterpolationLinear_v3_32f(src1.data(), src2.data(), s, dst.data())); }
+/// tarnInterpolationLinear_v4_32f
+inline std::error_code interpolation_linear(std::span<const float, 4> src1, std::span<const float, 4> src2, float s, std::span<float, 4> dst) { return detail::status(::tarnInterpolationLinear_v4_32f(src1.data(), src2.data(), s, dst.data())); }
+/// tarnInvert_m4_32f
+inline std::error_code invert(std::span<const float, 16> src, float& det, std::span<float, 16> dst) { return detail::status(::tarnInvert_m4_32f(src.data(), &det, dst.data())); }
+/// tarnIsIdentity_m4_32f
+inline std::error_code is_identity(std::span<const float, 16> src, int32_t& result) { return detail::status(::tarnIsIdentity_m4_32f(src.data(), &result)); }
+/// tarnLenSqr_v2_32f
+inline std::error_code len_sqr(std::span<const float, 2> src, float& dst) { return detail::status(::tarnLenSqr_v2_32f(src.data(), &dst)); }
+/// tarnLenSqr_v3_32f
+inline std::error_code len_sqr(std::span<const float, 3> src, float& dst) { return detail::status(::tarnLenSqr_v3_32f(src.data(), &dst)); }
+/// tarnLenSqr_v4_32f
+inline std::error_code len_sqr(std::span<const float, 4> src, float& dst) { return detail::status(::tarnLenSqr_v4_32f(src.data(), &dst)); }
+/// tarnLen_v2_32f
+inline std::error_code len(std::span<const float, 2> src, float& dst) { return detail::status(::tarnLen_v2_32f(src.data(), &dst)); }
+/// tarnLen_v3_32f
+inline std::error_code len(std::span<const float, 3> src, float& dst) { return detail::status(::tarnLen_v3_32f(src.data(), &dst)); }
+/// tarnLen_v4_32f
+inline std::error_code len(std::span<const float, 4> src, float& dst) { return detail::status(::tarnLen_v4_32f(src.data(), &dst)); }
+/// tarnLookAtLH_m4_32f
+inline std::error_code look_at_lh(std::span<const float, 3> eye, std::span<const float, 3> at, std::span<const float, 3> up, std::span<float, 16> dst) { return detail::status(::tarnLookAtLH_m4_32f(eye.data(), at.data(), up.data(), dst.data())); }
+/// tarnLookAtRH_m4_32f
+inline std::error_code look_at_rh(std::span<const float, 3> eye, std::span<const float, 3> at, std::span<const float, 3> up, std::span<float, 16> dst) { return detail::status(::tarnLookAtRH_m4_32f(eye.data(), at.data(), up.data(), dst.data())); }
+/// tarnMax_v2_32f
+inline std::error_code max(std::span<const float, 2> src1, std::span<const float, 2> src2, std::span<float, 2> dst) { return detail::status(::tarnMax_v2_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnMax_v3_32f
+inline std::error_code max(std::span<const float, 3> src1, std::span<const float, 3> src2, std::span<float, 3> dst) { return detail::status(::tarnMax_v3_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnMax_v4_32f
+inline std::error_code max(std::span<const float, 4> src1, std::span<const float, 4> src2, std::span<float, 4> dst) { return detail::status(::tarnMax_v4_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnMin_v2_32f
+inline std::error_code min(std::span<const float, 2> src1, std::span<const float, 2> src2, std::span<float, 2> dst) { return detail::status(::tarnMin_v2_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnMin_v3_32f
+inline std::error_code min(std::span<const float, 3> src1, std::span<const float, 3> src2, std::span<float, 3> dst) { return detail::status(::tarnMin_v3_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnMin_v4_32f
+inline std::error_code min(std::span<const float, 4> src1, std::span<const float, 4> src2, std::span<float, 4> dst) { return detail::status(::tarnMin_v4_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnMulC_v2_32f
+inline std::error_code mul_c(std::span<const float, 2> src, float c, std::span<float, 2> dst) { return detail::status(::tarnMulC_v2_32f(src.data(), c, dst.data())); }
+/// tarnMulC_v3_32f
+inline std::error_code mul_c(std::span<const float, 3> src, float c, std::span<float, 3> dst) { return detail::status(::tarnMulC_v3_32f(src.data(), c, dst.data())); }
+/// tarnMulC_v4_32f
+inline std::error_code mul_c(std::span<const float, 4> src, float c, std::span<float, 4> dst) { return detail::status(::tarnMulC_v4_32f(src.data(), c, dst.data())); }
+/// tarnMulTranspose_m4_32f
+inline std::error_code mul_transpose(std::span<const float, 16> src1, std::span<const float, 16> src2, std::span<float, 16> dst) { return detail::status(::tarnMulTranspose_m4_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnMul_mm4x4_32f
+inline std::error_code mul(std::span<const float, 16> src1, std::span<const float, 16> src2, std::span<float, 16> dst) { return detail::status(::tarnMul_mm4x4_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnNormalize_v2_32f
+inline std::error_code normalize(std::span<const float, 2> src, std::span<float, 2> dst) { return detail::status(::tarnNormalize_v2_32f(src.data(), dst.data())); }
+/// tarnNormalize_v3_32f
+inline std::error_code normalize(std::span<const float, 3> src, std::span<float, 3> dst) { return detail::status(::tarnNormalize_v3_32f(src.data(), dst.data())); }
+/// tarnNormalize_v4_32f
+inline std::error_code normalize(std::span<const float, 4> src, std::span<float, 4> dst) { return detail::status(::tarnNormalize_v4_32f(src.data(), dst.data())); }
+/// tarnOrthoLH_m4_32f
+inline std::error_code ortho_lh(float viewWidth, float viewHeight, float zNear, float zFar, std::span<float, 16> dst) { return detail::status(::tarnOrthoLH_m4_32f(viewWidth, viewHeight, zNear, zFar, dst.data())); }
+/// tarnOrthoOffCenterLH_m4_32f
+inline std::error_code ortho_off_center_lh(float left, float right, float bottom, float top, float zNear, float zFar, std::span<float, 16> dst) { return detail::status(::tarnOrthoOffCenterLH_m4_32f(left, right, bottom, top, zNear, zFar, dst.data())); }
+/// tarnOrthoOffCenterRH_m4_32f
+inline std::error_code ortho_off_center_rh(float left, float right, float bottom, float top, float zNear, float zFar, std::span<float, 16> dst) { return detail::status(::tarnOrthoOffCenterRH_m4_32f(left, right, bottom, top, zNear, zFar, dst.data())); }
+/// tarnOrthoRH_m4_32f
+inline std::error_code ortho_rh(float viewWidth, float viewHeight, float zNear, float zFar, std::span<float, 16> dst) { return detail::status(::tarnOrthoRH_m4_32f(viewWidth, viewHeight, zNear, zFar, dst.data())); }
+/// tarnPerspectiveFovLH_m4_32f
+inline std::error_code perspective_fov_lh(float fovY, float aspect, float zNear, float zFar, std::span<float, 16> dst) { return detail::status(::tarnPerspectiveFovLH_m4_32f(fovY, aspect, zNear, zFar, dst.data())); }
+/// tarnPerspectiveFovRH_m4_32f
+inline std::error_code perspective_fov_rh(float fovY, float aspect, float zNear, float zFar, std::span<float, 16> dst) { return detail::status(::tarnPerspectiveFovRH_m4_32f(fovY, aspect, zNear, zFar, dst.data())); }
+/// tarnPerspectiveLH_m4_32f
+inline std::error_code perspective_lh(float viewWidth, float viewHeight, float zNear, float zFar, std::span<float, 16> dst) { return detail::status(::tarnPerspectiveLH_m4_32f(viewWidth, viewHeight, zNear, zFar, dst.data())); }
+/// tarnPerspectiveOffCenterLH_m4_32f
+inline std::error_code perspective_off_center_lh(float left, float right, float bottom, float top, float zNear, float zFar, std::span<float, 16> dst) { return detail::status(::tarnPerspectiveOffCenterLH_m4_32f(left, right, bottom, top, zNear, zFar, dst.data())); }
+/// tarnPerspectiveOffCenterRH_m4_32f
+inline std::error_code perspective_off_center_rh(float left, float right, float bottom, float top, float zNear, float zFar, std::span<float, 16> dst) { return detail::status(::tarnPerspectiveOffCenterRH_m4_32f(left, right, bottom, top, zNear, zFar, dst.data())); }
+/// tarnPerspectiveRH_m4_32f
+inline std::error_code perspective_rh(float viewWidth, float viewHeight, float zNear, float zFar, std::span<float, 16> dst) { return detail::status(::tarnPerspectiveRH_m4_32f(viewWidth, viewHeight, zNear, zFar, dst.data())); }
+/// tarnProject_m4v3_32f
+inline std::error_code project(std::span<const float, 16> projection, std::span<const float, 16> view, std::span<const float, 16> world, std::span<const float, 3> src, float viewportWidth, float viewportHeight, float minZ, float maxZ, std::span<float, 3> dst) { return detail::status(::tarnProject_m4v3_32f(projection.data(), view.data(), world.data(), src.data(), viewportWidth, viewportHeight, minZ, maxZ, dst.data())); }
+/// tarnRotationAxis_v3m4_32f
+inline std::error_code rotation_axis(std::span<const float, 3> axis, float angle, std::span<float, 16> dst) { return detail::status(::tarnRotationAxis_v3m4_32f(axis.data(), angle, dst.data())); }
+/// tarnRotationX_m4_32f
+inline std::error_code rotation_x(float angle, std::span<float, 16> dst) { return detail::status(::tarnRotationX_m4_32f(angle, dst.data())); }
+/// tarnRotationY_m4_32f
+inline std::error_code rotation_y(float angle, std::span<float, 16> dst) { return detail::status(::tarnRotationY_m4_32f(angle, dst.data())); }
+/// tarnRotationYawPitchRoll_m4_32f
+inline std::error_code rotation_yaw_pitch_roll(float yaw, float pitch, float roll, std::span<float, 16> dst) { return detail::status(::tarnRotationYawPitchRoll_m4_32f(yaw, pitch, roll, dst.data())); }
+/// tarnRotationZ_m4_32f
+inline std::error_code rotation_z(float angle, std::span<float, 16> dst) { return detail::status(::tarnRotationZ_m4_32f(angle, dst.data())); }
+/// tarnScaling_m4_32f
+inline std::error_code scaling(float sx, float sy, float sz, std::span<float, 16> dst) { return detail::status(::tarnScaling_m4_32f(sx, sy, sz, dst.data())); }
+/// tarnSub_v2_32f
+inline std::error_code sub(std::span<const float, 2> src1, std::span<const float, 2> src2, std::span<float, 2> dst) { return detail::status(::tarnSub_v2_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnSub_v3_32f
+inline std::error_code sub(std::span<const float, 3> src1, std::span<const float, 3> src2, std::span<float, 3> dst) { return detail::status(::tarnSub_v3_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnSub_v4_32f
+inline std::error_code sub(std::span<const float, 4> src1, std::span<const float, 4> src2, std::span<float, 4> dst) { return detail::status(::tarnSub_v4_32f(src1.data(), src2.data(), dst.data())); }
+/// tarnTranslation_m4_32f
+inline std::error_code translation(float tx, float ty, float tz, std::span<float, 16> dst) { return detail::status(::tarnTranslation_m4_32f(tx, ty, tz, dst.data())); }
+/// tarnTranspose_m4_32f
+inline std::error_code transpose(std::span<const float, 16> src, std::span<float, 16> dst) { return detail::status(::tarnTranspose_m4_32f(src.data(), dst.data())); }
+/// tarnUnproject_m4v3_32f
+inline std::error_code unproject(std::span<const float, 16> projection, std::span<const float, 16> view, std::span<const float, 16> world, std::span<const float, 3> src, float viewportWidth, float viewportHeight, float minZ, float maxZ, std::span<float, 3> dst) { return detail::status(::tarnUnproject_m4v3_32f(projection.data(), view.data(), world.data(), src.data(), viewportWidth, viewportHeight, minZ, maxZ, dst.data())); }
+
 inline const tarnLibraryVersion* get_lib_version() { return ::tarnGetLibVersion(); }
 
 // The throwing forms: the same overloads, a status other than 0 thrown as tarn::error.
@@ -9452,7 +9608,11 @@ auto add_v3(A&&... a) -> decltype(void(tarn::add_v3(std::forward<A>(a)...))) { d
 template <class... A>
 auto add_v4(A&&... a) -> decltype(void(tarn::add_v4(std::forward<A>(a)...))) { detail::raise(tarn::add_v4(std::forward<A>(a)...)); }
 template <class... A>
-auto affine_transform3_dh(A&&... a) -> decltype(void(tarn::affine_transform3_dh(std::forward<A>(a)...))) { detail::raise(tarn::affine_transform3_dh(std::forward<A>(a)...)); }
+auto affine_transform(A&&... a) -> decltype(void(tarn::affine_transform(std::forward<A>(a)...))) { detail::raise(tarn::affine_transform(std::forward<A>(a)...)); }
+template <class... A>
+auto affine_transform_3dh(A&&... a) -> decltype(void(tarn::affine_transform_3dh(std::forward<A>(a)...))) { detail::raise(tarn::affine_transform_3dh(std::forward<A>(a)...)); }
+template <class... A>
+auto affine_transform_coord(A&&... a) -> decltype(void(tarn::affine_transform_coord(std::forward<A>(a)...))) { detail::raise(tarn::affine_transform_coord(std::forward<A>(a)...)); }
 template <class... A>
 auto affine_transform_coord_m4v2(A&&... a) -> decltype(void(tarn::affine_transform_coord_m4v2(std::forward<A>(a)...))) { detail::raise(tarn::affine_transform_coord_m4v2(std::forward<A>(a)...)); }
 template <class... A>
@@ -9474,6 +9634,8 @@ auto affine_transform_m4v4(A&&... a) -> decltype(void(tarn::affine_transform_m4v
 template <class... A>
 auto affine_transform_m4v4a(A&&... a) -> decltype(void(tarn::affine_transform_m4v4a(std::forward<A>(a)...))) { detail::raise(tarn::affine_transform_m4v4a(std::forward<A>(a)...)); }
 template <class... A>
+auto affine_transform_normal(A&&... a) -> decltype(void(tarn::affine_transform_normal(std::forward<A>(a)...))) { detail::raise(tarn::affine_transform_normal(std::forward<A>(a)...)); }
+template <class... A>
 auto affine_transform_normal_m4v2(A&&... a) -> decltype(void(tarn::affine_transform_normal_m4v2(std::forward<A>(a)...))) { detail::raise(tarn::affine_transform_normal_m4v2(std::forward<A>(a)...)); }
 template <class... A>
 auto affine_transform_normal_m4v2a(A&&... a) -> decltype(void(tarn::affine_transform_normal_m4v2a(std::forward<A>(a)...))) { detail::raise(tarn::affine_transform_normal_m4v2a(std::forward<A>(a)...)); }
@@ -9482,11 +9644,13 @@ auto affine_transform_normal_m4v3(A&&... a) -> decltype(void(tarn::affine_transf
 template <class... A>
 auto affine_transform_normal_m4v3a(A&&... a) -> decltype(void(tarn::affine_transform_normal_m4v3a(std::forward<A>(a)...))) { detail::raise(tarn::affine_transform_normal_m4v3a(std::forward<A>(a)...)); }
 template <class... A>
-auto bary_centric_v2(A&&... a) -> decltype(void(tarn::bary_centric_v2(std::forward<A>(a)...))) { detail::raise(tarn::bary_centric_v2(std::forward<A>(a)...)); }
+auto barycentric(A&&... a) -> decltype(void(tarn::barycentric(std::forward<A>(a)...))) { detail::raise(tarn::barycentric(std::forward<A>(a)...)); }
 template <class... A>
-auto bary_centric_v3(A&&... a) -> decltype(void(tarn::bary_centric_v3(std::forward<A>(a)...))) { detail::raise(tarn::bary_centric_v3(std::forward<A>(a)...)); }
+auto barycentric_v2(A&&... a) -> decltype(void(tarn::barycentric_v2(std::forward<A>(a)...))) { detail::raise(tarn::barycentric_v2(std::forward<A>(a)...)); }
 template <class... A>
-auto bary_centric_v4(A&&... a) -> decltype(void(tarn::bary_centric_v4(std::forward<A>(a)...))) { detail::raise(tarn::bary_centric_v4(std::forward<A>(a)...)); }
+auto barycentric_v3(A&&... a) -> decltype(void(tarn::barycentric_v3(std::forward<A>(a)...))) { detail::raise(tarn::barycentric_v3(std::forward<A>(a)...)); }
+template <class... A>
+auto barycentric_v4(A&&... a) -> decltype(void(tarn::barycentric_v4(std::forward<A>(a)...))) { detail::raise(tarn::barycentric_v4(std::forward<A>(a)...)); }
 template <class... A>
 auto cholesky_back_subst(A&&... a) -> decltype(void(tarn::cholesky_back_subst(std::forward<A>(a)...))) { detail::raise(tarn::cholesky_back_subst(std::forward<A>(a)...)); }
 template <class... A>
@@ -9536,19 +9700,27 @@ auto frob_norm(A&&... a) -> decltype(void(tarn::frob_norm(std::forward<A>(a)...)
 template <class... A>
 auto gaxpy(A&&... a) -> decltype(void(tarn::gaxpy(std::forward<A>(a)...))) { detail::raise(tarn::gaxpy(std::forward<A>(a)...)); }
 template <class... A>
+auto hermite(A&&... a) -> decltype(void(tarn::hermite(std::forward<A>(a)...))) { detail::raise(tarn::hermite(std::forward<A>(a)...)); }
+template <class... A>
 auto hermite_v2(A&&... a) -> decltype(void(tarn::hermite_v2(std::forward<A>(a)...))) { detail::raise(tarn::hermite_v2(std::forward<A>(a)...)); }
 template <class... A>
 auto hermite_v3(A&&... a) -> decltype(void(tarn::hermite_v3(std::forward<A>(a)...))) { detail::raise(tarn::hermite_v3(std::forward<A>(a)...)); }
 template <class... A>
 auto hermite_v4(A&&... a) -> decltype(void(tarn::hermite_v4(std::forward<A>(a)...))) { detail::raise(tarn::hermite_v4(std::forward<A>(a)...)); }
 template <class... A>
+auto identity(A&&... a) -> decltype(void(tarn::identity(std::forward<A>(a)...))) { detail::raise(tarn::identity(std::forward<A>(a)...)); }
+template <class... A>
 auto identity_m4(A&&... a) -> decltype(void(tarn::identity_m4(std::forward<A>(a)...))) { detail::raise(tarn::identity_m4(std::forward<A>(a)...)); }
+template <class... A>
+auto interpolation_catmull_rom(A&&... a) -> decltype(void(tarn::interpolation_catmull_rom(std::forward<A>(a)...))) { detail::raise(tarn::interpolation_catmull_rom(std::forward<A>(a)...)); }
 template <class... A>
 auto interpolation_catmull_rom_v2(A&&... a) -> decltype(void(tarn::interpolation_catmull_rom_v2(std::forward<A>(a)...))) { detail::raise(tarn::interpolation_catmull_rom_v2(std::forward<A>(a)...)); }
 template <class... A>
 auto interpolation_catmull_rom_v3(A&&... a) -> decltype(void(tarn::interpolation_catmull_rom_v3(std::forward<A>(a)...))) { detail::raise(tarn::interpolation_catmull_rom_v3(std::forward<A>(a)...)); }
 template <class... A>
 auto interpolation_catmull_rom_v4(A&&... a) -> decltype(void(tarn::interpolation_catmull_rom_v4(std::forward<A>(a)...))) { detail::raise(tarn::interpolation_catmull_rom_v4(std::forward<A>(a)...)); }
+template <class... A>
+auto interpolation_linear(A&&... a) -> decltype(void(tarn::interpolation_linear(std::forward<A>(a)...))) { detail::raise(tarn::interpolation_linear(std::forward<A>(a)...)); }
 template <class... A>
 auto interpolation_linear_v2(A&&... a) -> decltype(void(tarn::interpolation_linear_v2(std::forward<A>(a)...))) { detail::raise(tarn::interpolation_linear_v2(std::forward<A>(a)...)); }
 template <class... A>
@@ -9560,11 +9732,17 @@ auto invert(A&&... a) -> decltype(void(tarn::invert(std::forward<A>(a)...))) { d
 template <class... A>
 auto invert_m4(A&&... a) -> decltype(void(tarn::invert_m4(std::forward<A>(a)...))) { detail::raise(tarn::invert_m4(std::forward<A>(a)...)); }
 template <class... A>
+auto is_identity(A&&... a) -> decltype(void(tarn::is_identity(std::forward<A>(a)...))) { detail::raise(tarn::is_identity(std::forward<A>(a)...)); }
+template <class... A>
 auto is_identity_m4(A&&... a) -> decltype(void(tarn::is_identity_m4(std::forward<A>(a)...))) { detail::raise(tarn::is_identity_m4(std::forward<A>(a)...)); }
 template <class... A>
 auto l2_norm(A&&... a) -> decltype(void(tarn::l2_norm(std::forward<A>(a)...))) { detail::raise(tarn::l2_norm(std::forward<A>(a)...)); }
 template <class... A>
-auto l_comb(A&&... a) -> decltype(void(tarn::l_comb(std::forward<A>(a)...))) { detail::raise(tarn::l_comb(std::forward<A>(a)...)); }
+auto lcomb(A&&... a) -> decltype(void(tarn::lcomb(std::forward<A>(a)...))) { detail::raise(tarn::lcomb(std::forward<A>(a)...)); }
+template <class... A>
+auto len(A&&... a) -> decltype(void(tarn::len(std::forward<A>(a)...))) { detail::raise(tarn::len(std::forward<A>(a)...)); }
+template <class... A>
+auto len_sqr(A&&... a) -> decltype(void(tarn::len_sqr(std::forward<A>(a)...))) { detail::raise(tarn::len_sqr(std::forward<A>(a)...)); }
 template <class... A>
 auto len_sqr_v2(A&&... a) -> decltype(void(tarn::len_sqr_v2(std::forward<A>(a)...))) { detail::raise(tarn::len_sqr_v2(std::forward<A>(a)...)); }
 template <class... A>
@@ -9580,7 +9758,11 @@ auto len_v4(A&&... a) -> decltype(void(tarn::len_v4(std::forward<A>(a)...))) { d
 template <class... A>
 auto load_identity(A&&... a) -> decltype(void(tarn::load_identity(std::forward<A>(a)...))) { detail::raise(tarn::load_identity(std::forward<A>(a)...)); }
 template <class... A>
+auto look_at_lh(A&&... a) -> decltype(void(tarn::look_at_lh(std::forward<A>(a)...))) { detail::raise(tarn::look_at_lh(std::forward<A>(a)...)); }
+template <class... A>
 auto look_at_lh_m4(A&&... a) -> decltype(void(tarn::look_at_lh_m4(std::forward<A>(a)...))) { detail::raise(tarn::look_at_lh_m4(std::forward<A>(a)...)); }
+template <class... A>
+auto look_at_rh(A&&... a) -> decltype(void(tarn::look_at_rh(std::forward<A>(a)...))) { detail::raise(tarn::look_at_rh(std::forward<A>(a)...)); }
 template <class... A>
 auto look_at_rh_m4(A&&... a) -> decltype(void(tarn::look_at_rh_m4(std::forward<A>(a)...))) { detail::raise(tarn::look_at_rh_m4(std::forward<A>(a)...)); }
 template <class... A>
@@ -9588,11 +9770,15 @@ auto lu_back_subst(A&&... a) -> decltype(void(tarn::lu_back_subst(std::forward<A
 template <class... A>
 auto lu_decomp(A&&... a) -> decltype(void(tarn::lu_decomp(std::forward<A>(a)...))) { detail::raise(tarn::lu_decomp(std::forward<A>(a)...)); }
 template <class... A>
+auto max(A&&... a) -> decltype(void(tarn::max(std::forward<A>(a)...))) { detail::raise(tarn::max(std::forward<A>(a)...)); }
+template <class... A>
 auto max_v2(A&&... a) -> decltype(void(tarn::max_v2(std::forward<A>(a)...))) { detail::raise(tarn::max_v2(std::forward<A>(a)...)); }
 template <class... A>
 auto max_v3(A&&... a) -> decltype(void(tarn::max_v3(std::forward<A>(a)...))) { detail::raise(tarn::max_v3(std::forward<A>(a)...)); }
 template <class... A>
 auto max_v4(A&&... a) -> decltype(void(tarn::max_v4(std::forward<A>(a)...))) { detail::raise(tarn::max_v4(std::forward<A>(a)...)); }
+template <class... A>
+auto min(A&&... a) -> decltype(void(tarn::min(std::forward<A>(a)...))) { detail::raise(tarn::min(std::forward<A>(a)...)); }
 template <class... A>
 auto min_v2(A&&... a) -> decltype(void(tarn::min_v2(std::forward<A>(a)...))) { detail::raise(tarn::min_v2(std::forward<A>(a)...)); }
 template <class... A>
@@ -9602,6 +9788,8 @@ auto min_v4(A&&... a) -> decltype(void(tarn::min_v4(std::forward<A>(a)...))) { d
 template <class... A>
 auto mul(A&&... a) -> decltype(void(tarn::mul(std::forward<A>(a)...))) { detail::raise(tarn::mul(std::forward<A>(a)...)); }
 template <class... A>
+auto mul_c(A&&... a) -> decltype(void(tarn::mul_c(std::forward<A>(a)...))) { detail::raise(tarn::mul_c(std::forward<A>(a)...)); }
+template <class... A>
 auto mul_c_v2(A&&... a) -> decltype(void(tarn::mul_c_v2(std::forward<A>(a)...))) { detail::raise(tarn::mul_c_v2(std::forward<A>(a)...)); }
 template <class... A>
 auto mul_c_v3(A&&... a) -> decltype(void(tarn::mul_c_v3(std::forward<A>(a)...))) { detail::raise(tarn::mul_c_v3(std::forward<A>(a)...)); }
@@ -9610,7 +9798,11 @@ auto mul_c_v4(A&&... a) -> decltype(void(tarn::mul_c_v4(std::forward<A>(a)...)))
 template <class... A>
 auto mul_mm4x4(A&&... a) -> decltype(void(tarn::mul_mm4x4(std::forward<A>(a)...))) { detail::raise(tarn::mul_mm4x4(std::forward<A>(a)...)); }
 template <class... A>
+auto mul_transpose(A&&... a) -> decltype(void(tarn::mul_transpose(std::forward<A>(a)...))) { detail::raise(tarn::mul_transpose(std::forward<A>(a)...)); }
+template <class... A>
 auto mul_transpose_m4(A&&... a) -> decltype(void(tarn::mul_transpose_m4(std::forward<A>(a)...))) { detail::raise(tarn::mul_transpose_m4(std::forward<A>(a)...)); }
+template <class... A>
+auto normalize(A&&... a) -> decltype(void(tarn::normalize(std::forward<A>(a)...))) { detail::raise(tarn::normalize(std::forward<A>(a)...)); }
 template <class... A>
 auto normalize_v2(A&&... a) -> decltype(void(tarn::normalize_v2(std::forward<A>(a)...))) { detail::raise(tarn::normalize_v2(std::forward<A>(a)...)); }
 template <class... A>
@@ -9618,25 +9810,47 @@ auto normalize_v3(A&&... a) -> decltype(void(tarn::normalize_v3(std::forward<A>(
 template <class... A>
 auto normalize_v4(A&&... a) -> decltype(void(tarn::normalize_v4(std::forward<A>(a)...))) { detail::raise(tarn::normalize_v4(std::forward<A>(a)...)); }
 template <class... A>
+auto ortho_lh(A&&... a) -> decltype(void(tarn::ortho_lh(std::forward<A>(a)...))) { detail::raise(tarn::ortho_lh(std::forward<A>(a)...)); }
+template <class... A>
 auto ortho_lh_m4(A&&... a) -> decltype(void(tarn::ortho_lh_m4(std::forward<A>(a)...))) { detail::raise(tarn::ortho_lh_m4(std::forward<A>(a)...)); }
+template <class... A>
+auto ortho_off_center_lh(A&&... a) -> decltype(void(tarn::ortho_off_center_lh(std::forward<A>(a)...))) { detail::raise(tarn::ortho_off_center_lh(std::forward<A>(a)...)); }
 template <class... A>
 auto ortho_off_center_lh_m4(A&&... a) -> decltype(void(tarn::ortho_off_center_lh_m4(std::forward<A>(a)...))) { detail::raise(tarn::ortho_off_center_lh_m4(std::forward<A>(a)...)); }
 template <class... A>
+auto ortho_off_center_rh(A&&... a) -> decltype(void(tarn::ortho_off_center_rh(std::forward<A>(a)...))) { detail::raise(tarn::ortho_off_center_rh(std::forward<A>(a)...)); }
+template <class... A>
 auto ortho_off_center_rh_m4(A&&... a) -> decltype(void(tarn::ortho_off_center_rh_m4(std::forward<A>(a)...))) { detail::raise(tarn::ortho_off_center_rh_m4(std::forward<A>(a)...)); }
+template <class... A>
+auto ortho_rh(A&&... a) -> decltype(void(tarn::ortho_rh(std::forward<A>(a)...))) { detail::raise(tarn::ortho_rh(std::forward<A>(a)...)); }
 template <class... A>
 auto ortho_rh_m4(A&&... a) -> decltype(void(tarn::ortho_rh_m4(std::forward<A>(a)...))) { detail::raise(tarn::ortho_rh_m4(std::forward<A>(a)...)); }
 template <class... A>
+auto perspective_fov_lh(A&&... a) -> decltype(void(tarn::perspective_fov_lh(std::forward<A>(a)...))) { detail::raise(tarn::perspective_fov_lh(std::forward<A>(a)...)); }
+template <class... A>
 auto perspective_fov_lh_m4(A&&... a) -> decltype(void(tarn::perspective_fov_lh_m4(std::forward<A>(a)...))) { detail::raise(tarn::perspective_fov_lh_m4(std::forward<A>(a)...)); }
+template <class... A>
+auto perspective_fov_rh(A&&... a) -> decltype(void(tarn::perspective_fov_rh(std::forward<A>(a)...))) { detail::raise(tarn::perspective_fov_rh(std::forward<A>(a)...)); }
 template <class... A>
 auto perspective_fov_rh_m4(A&&... a) -> decltype(void(tarn::perspective_fov_rh_m4(std::forward<A>(a)...))) { detail::raise(tarn::perspective_fov_rh_m4(std::forward<A>(a)...)); }
 template <class... A>
+auto perspective_lh(A&&... a) -> decltype(void(tarn::perspective_lh(std::forward<A>(a)...))) { detail::raise(tarn::perspective_lh(std::forward<A>(a)...)); }
+template <class... A>
 auto perspective_lh_m4(A&&... a) -> decltype(void(tarn::perspective_lh_m4(std::forward<A>(a)...))) { detail::raise(tarn::perspective_lh_m4(std::forward<A>(a)...)); }
+template <class... A>
+auto perspective_off_center_lh(A&&... a) -> decltype(void(tarn::perspective_off_center_lh(std::forward<A>(a)...))) { detail::raise(tarn::perspective_off_center_lh(std::forward<A>(a)...)); }
 template <class... A>
 auto perspective_off_center_lh_m4(A&&... a) -> decltype(void(tarn::perspective_off_center_lh_m4(std::forward<A>(a)...))) { detail::raise(tarn::perspective_off_center_lh_m4(std::forward<A>(a)...)); }
 template <class... A>
+auto perspective_off_center_rh(A&&... a) -> decltype(void(tarn::perspective_off_center_rh(std::forward<A>(a)...))) { detail::raise(tarn::perspective_off_center_rh(std::forward<A>(a)...)); }
+template <class... A>
 auto perspective_off_center_rh_m4(A&&... a) -> decltype(void(tarn::perspective_off_center_rh_m4(std::forward<A>(a)...))) { detail::raise(tarn::perspective_off_center_rh_m4(std::forward<A>(a)...)); }
 template <class... A>
+auto perspective_rh(A&&... a) -> decltype(void(tarn::perspective_rh(std::forward<A>(a)...))) { detail::raise(tarn::perspective_rh(std::forward<A>(a)...)); }
+template <class... A>
 auto perspective_rh_m4(A&&... a) -> decltype(void(tarn::perspective_rh_m4(std::forward<A>(a)...))) { detail::raise(tarn::perspective_rh_m4(std::forward<A>(a)...)); }
+template <class... A>
+auto project(A&&... a) -> decltype(void(tarn::project(std::forward<A>(a)...))) { detail::raise(tarn::project(std::forward<A>(a)...)); }
 template <class... A>
 auto project_m4v3(A&&... a) -> decltype(void(tarn::project_m4v3(std::forward<A>(a)...))) { detail::raise(tarn::project_m4v3(std::forward<A>(a)...)); }
 template <class... A>
@@ -9646,17 +9860,29 @@ auto qr_back_subst(A&&... a) -> decltype(void(tarn::qr_back_subst(std::forward<A
 template <class... A>
 auto qr_decomp(A&&... a) -> decltype(void(tarn::qr_decomp(std::forward<A>(a)...))) { detail::raise(tarn::qr_decomp(std::forward<A>(a)...)); }
 template <class... A>
+auto rotation_axis(A&&... a) -> decltype(void(tarn::rotation_axis(std::forward<A>(a)...))) { detail::raise(tarn::rotation_axis(std::forward<A>(a)...)); }
+template <class... A>
 auto rotation_axis_v3m4(A&&... a) -> decltype(void(tarn::rotation_axis_v3m4(std::forward<A>(a)...))) { detail::raise(tarn::rotation_axis_v3m4(std::forward<A>(a)...)); }
+template <class... A>
+auto rotation_x(A&&... a) -> decltype(void(tarn::rotation_x(std::forward<A>(a)...))) { detail::raise(tarn::rotation_x(std::forward<A>(a)...)); }
 template <class... A>
 auto rotation_x_m4(A&&... a) -> decltype(void(tarn::rotation_x_m4(std::forward<A>(a)...))) { detail::raise(tarn::rotation_x_m4(std::forward<A>(a)...)); }
 template <class... A>
+auto rotation_y(A&&... a) -> decltype(void(tarn::rotation_y(std::forward<A>(a)...))) { detail::raise(tarn::rotation_y(std::forward<A>(a)...)); }
+template <class... A>
 auto rotation_y_m4(A&&... a) -> decltype(void(tarn::rotation_y_m4(std::forward<A>(a)...))) { detail::raise(tarn::rotation_y_m4(std::forward<A>(a)...)); }
 template <class... A>
+auto rotation_yaw_pitch_roll(A&&... a) -> decltype(void(tarn::rotation_yaw_pitch_roll(std::forward<A>(a)...))) { detail::raise(tarn::rotation_yaw_pitch_roll(std::forward<A>(a)...)); }
+template <class... A>
 auto rotation_yaw_pitch_roll_m4(A&&... a) -> decltype(void(tarn::rotation_yaw_pitch_roll_m4(std::forward<A>(a)...))) { detail::raise(tarn::rotation_yaw_pitch_roll_m4(std::forward<A>(a)...)); }
+template <class... A>
+auto rotation_z(A&&... a) -> decltype(void(tarn::rotation_z(std::forward<A>(a)...))) { detail::raise(tarn::rotation_z(std::forward<A>(a)...)); }
 template <class... A>
 auto rotation_z_m4(A&&... a) -> decltype(void(tarn::rotation_z_m4(std::forward<A>(a)...))) { detail::raise(tarn::rotation_z_m4(std::forward<A>(a)...)); }
 template <class... A>
 auto saxpy(A&&... a) -> decltype(void(tarn::saxpy(std::forward<A>(a)...))) { detail::raise(tarn::saxpy(std::forward<A>(a)...)); }
+template <class... A>
+auto scaling(A&&... a) -> decltype(void(tarn::scaling(std::forward<A>(a)...))) { detail::raise(tarn::scaling(std::forward<A>(a)...)); }
 template <class... A>
 auto scaling_m4(A&&... a) -> decltype(void(tarn::scaling_m4(std::forward<A>(a)...))) { detail::raise(tarn::scaling_m4(std::forward<A>(a)...)); }
 template <class... A>
@@ -9670,11 +9896,15 @@ auto sub_v4(A&&... a) -> decltype(void(tarn::sub_v4(std::forward<A>(a)...))) { d
 template <class... A>
 auto trace(A&&... a) -> decltype(void(tarn::trace(std::forward<A>(a)...))) { detail::raise(tarn::trace(std::forward<A>(a)...)); }
 template <class... A>
+auto translation(A&&... a) -> decltype(void(tarn::translation(std::forward<A>(a)...))) { detail::raise(tarn::translation(std::forward<A>(a)...)); }
+template <class... A>
 auto translation_m4(A&&... a) -> decltype(void(tarn::translation_m4(std::forward<A>(a)...))) { detail::raise(tarn::translation_m4(std::forward<A>(a)...)); }
 template <class... A>
 auto transpose(A&&... a) -> decltype(void(tarn::transpose(std::forward<A>(a)...))) { detail::raise(tarn::transpose(std::forward<A>(a)...)); }
 template <class... A>
 auto transpose_m4(A&&... a) -> decltype(void(tarn::transpose_m4(std::forward<A>(a)...))) { detail::raise(tarn::transpose_m4(std::forward<A>(a)...)); }
+template <class... A>
+auto unproject(A&&... a) -> decltype(void(tarn::unproject(std::forward<A>(a)...))) { detail::raise(tarn::unproject(std::forward<A>(a)...)); }
 template <class... A>
 auto unproject_m4v3(A&&... a) -> decltype(void(tarn::unproject_m4v3(std::forward<A>(a)...))) { detail::raise(tarn::unproject_m4v3(std::forward<A>(a)...)); }
 template <class... A>

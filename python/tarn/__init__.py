@@ -1,7 +1,10 @@
 """tarn for numpy: batched kernels for small dense matrices and vectors.
 
 Every family of the library is a function here in snake case (``tarn.add``, ``tarn.mul``,
-``tarn.trace``, ...). Arguments are numpy arrays: a matrix is the last two axes, a vector the
+``tarn.trace``, ...; ``names`` maps each family to its name). The fixed-size float32 members
+(small vectors, 4x4 transforms) are in ``tarn.geometry`` and here too: a family of their own by
+its name, a family shared with the general members (``add``, ``det``, ``cross_product``, ...)
+falling back to them where no general member takes the arguments. Arguments are numpy arrays: a matrix is the last two axes, a vector the
 last one, and any leading axes make an array of objects; a Python number is a constant. The
 member is chosen from the arguments' shapes and dtype (float32 or float64), arrays are passed
 with their own byte strides, never copied (a transposed view is only strides), results are
@@ -18,8 +21,11 @@ raise ValueError before any call.
 
 import numpy as _np
 
+# len, min and max are family names here: the built-ins they hide, under names of their own.
+from builtins import len as _len, max as _max  # noqa: E402
+
 from . import _native
-from ._members import MEMBERS as _MEMBERS
+from ._members import MEMBERS as _MEMBERS, NAMES as _NAMES
 
 
 class Error(Exception):
@@ -62,12 +68,13 @@ def _raise_status(status, name):
 
 
 def snake_case(family):
-    """The Python and C++ name of a family: LUDecomp -> lu_decomp."""
+    """The rule for a family's Python and C++ name: LUDecomp -> lu_decomp (``names`` holds the
+    few families named otherwise, where the rule would split a word)."""
     out = []
     for i, ch in enumerate(family):
         if ch.isupper() and i > 0:
             prev = family[i - 1]
-            next_lower = i + 1 < len(family) and family[i + 1].islower()
+            next_lower = i + 1 < _len(family) and family[i + 1].islower()
             if prev.islower() or prev.isdigit() or (prev.isupper() and next_lower):
                 out.append("_")
         out.append(ch.lower())
@@ -98,7 +105,7 @@ class _Member:
         if b["kind"] in ("m", "t"):
             return 2
         if b["kind"] == "v" or b["slot"] in ("values", "pivot", "pivotin", "plain"):
-            return len(b["dims"])
+            return _len(b["dims"])
         return 0
 
     def _elem_dtype(self, b):
@@ -106,8 +113,8 @@ class _Member:
 
     def bind(self, args, out, keywords):
         """Checks the arguments against this member and returns the call, or raises _Misfit."""
-        if len(args) != len(self.items):
-            raise _Misfit("%d arguments, %s takes %d" % (len(args), self.name, len(self.items)))
+        if _len(args) != _len(self.items):
+            raise _Misfit("%d arguments, %s takes %d" % (_len(args), self.name, _len(self.items)))
         arrays, values, batch = {}, {}, None
         for (what, ref), a in zip(self.items, args):
             if what == "v":
@@ -179,8 +186,8 @@ class _Member:
         if out is None:
             return {}
         given = out if isinstance(out, tuple) else (out,)
-        if len(given) != len(self.outputs):
-            raise _Misfit("%s writes %d results" % (self.name, len(self.outputs)))
+        if _len(given) != _len(self.outputs):
+            raise _Misfit("%s writes %d results" % (self.name, _len(self.outputs)))
         return {i: o for i, o in zip(self.outputs, given) if o is not None}
 
 
@@ -218,7 +225,7 @@ class _Bound:
             if i not in self.arrays:
                 dt = m._elem_dtype(b)
                 if b["slot"] == "buffer":
-                    a = _np.empty(max(1, int(_np.prod(dims))), dt)
+                    a = _np.empty(_max(1, int(_np.prod(dims))), dt)
                 else:
                     shape = (tuple(self.batch) if b["array"] else ()) + tuple(dims)
                     a = _np.empty(shape if shape else (1,), dt) if b["slot"] == "size" else _np.empty(shape, dt)
@@ -264,7 +271,7 @@ class _Bound:
             a = self.arrays[i]
             b = m.blocks[i]
             res.append(int(a[0]) if b["slot"] == "size" else a[()] if a.ndim == 0 else a)
-        return res[0] if len(res) == 1 else tuple(res)
+        return res[0] if _len(res) == 1 else tuple(res)
 
 
 def _family_function(family, members):
@@ -280,7 +287,7 @@ def _family_function(family, members):
         for a in args:
             if isinstance(a, _np.ndarray) and a.dtype.kind not in "fi" or isinstance(a, _np.ndarray) and a.dtype.kind == "f" and a.dtype not in (_np.float32, _np.float64):
                 raise TypeError("%s: arrays of %s are not supported" % (name, a.dtype))
-        if len(floats) > 1:
+        if _len(floats) > 1:
             raise TypeError("%s: arguments mix %s" % (name, ", ".join(sorted(str(f) for f in floats))))
         first = shape_error = None
         for m in members:
@@ -295,11 +302,17 @@ def _family_function(family, members):
                 shape_error = shape_error or e
                 continue
             return bound.run()
+        if call.fixed is not None:  # the family's fixed-size members, where no other fits
+            try:
+                return call.fixed(*args, out=out, **keywords)
+            except (TypeError, ValueError):
+                pass
         if shape_error is not None:
             raise shape_error
         raise TypeError("%s: no member takes these arguments (%s)" % (name, first))
 
-    name = snake_case(family)
+    name = _NAMES[family]
+    call.fixed = None
     call.__name__ = name
     call.__qualname__ = name
     call.__doc__ = "%s: members %s." % (family, ", ".join(sorted({m.pattern or "-" for m in members})))
@@ -320,6 +333,18 @@ def _build():
     return sorted(names)
 
 
+names = dict(_NAMES)
 families = _build()
+
+from . import geometry  # noqa: E402  (the fixed-size members)
+
+for _name, _fn in geometry.functions.items():
+    if _name in globals():
+        globals()[_name].fixed = _fn
+        globals()[_name].members = globals()[_name].members + _fn.members
+    else:
+        globals()[_name] = _fn
+        families.append(_name)
+families.sort()
 
 from . import linalg  # noqa: E402  (the familiar names, over the functions above)

@@ -5,9 +5,33 @@ Each is a few lines over the generated family functions; one whose family this b
 library lacks raises NotImplementedError (``available()`` lists the others).
 """
 
+import threading as _threading
+
 import numpy as _np
 
 import tarn as _tarn
+
+# Work arrays a function needs but does not return (the factors and pivots of solve, the
+# imaginary parts of eigvals) are kept per thread between calls of the same shape and type:
+# a large fresh array is mapped page by page on its first write, and on stacks of small
+# matrices that costs more than the factorisation itself. One set per thread and function is
+# kept; ``release()`` drops them.
+_kept = _threading.local()
+
+
+def _work(key, shape, dtype):
+    arrays = getattr(_kept, "arrays", None)
+    if arrays is None:
+        arrays = _kept.arrays = {}
+    a = arrays.get(key)
+    if a is None or a.shape != shape or a.dtype != dtype:
+        a = arrays[key] = _np.empty(shape, dtype)
+    return a
+
+
+def release():
+    """Drops the work arrays this thread keeps between calls."""
+    _kept.arrays = {}
 
 
 def _family(name):
@@ -62,7 +86,7 @@ def _columns(b, a, solve_one):
 def solve(a, b):
     """x with a @ x = b, by LU with partial pivoting."""
     a = _np.asarray(a)
-    lu, pivot = _family("lu_decomp")(a)
+    lu, pivot = _family("lu_decomp")(a, out=(_work("lu", a.shape, a.dtype), _work("pivot", a.shape[:-1], _np.int32)))
     back = _family("lu_back_subst")
     return _columns(b, a, lambda v, out=None: back(lu, pivot, v, out=out))
 
@@ -70,7 +94,7 @@ def solve(a, b):
 def cholesky_solve(a, b):
     """x with a @ x = b for symmetric positive definite a (its lower triangle is read)."""
     a = _np.asarray(a)
-    factor = _family("cholesky_decomp")(a)
+    factor = _family("cholesky_decomp")(a, out=_work("cholesky", a.shape, a.dtype))
     back = _family("cholesky_back_subst")
     return _columns(b, a, lambda v, out=None: back(factor, v, out=out))
 
@@ -83,7 +107,8 @@ def eigh(a):
 
 def eigvals(a):
     """Eigenvalues of general matrices: real, or complex where any has an imaginary part."""
-    re, im = _family("eigen_values")(_np.asarray(a))
+    a = _np.asarray(a)
+    re, im = _family("eigen_values")(a, out=(_np.empty(a.shape[:-1], a.dtype), _work("im", a.shape[:-1], a.dtype)))
     if _np.any(im):
         return re + 1j * im
     return re

@@ -637,4 +637,48 @@ inline constexpr BindShape kBindShapes[] = {
 };
 // clang-format on
 
+// Names in the bindings: a family is its name in snake case (LUDecomp -> lu_decomp) unless it
+// is named here, where the rule splits a word or a token that reads as one.
+struct BindName {
+  std::string_view family, name;
+};
+
+// clang-format off
+inline constexpr BindName kBindNames[] = {
+  {"LComb", "lcomb"},
+  {"AffineTransform3DH", "affine_transform_3dh"},
+  {"BaryCentric", "barycentric"},
+};
+// clang-format on
+
+// Shapes of the fixed-size members' pointers, which their C lists leave unsaid. A pointer is
+// what the pattern names: 4 x 4 where it has no vector (m4, mm4x4), else a vector of n, the
+// digit after its first v (v3 -> 3, m4v2a -> 2). Departures are named here, by family or by
+// member: `name=rows,cols`, `name=len`, or `name=` for a single element. In the array forms
+// (pattern ending in a) `src` and `dst` are arrays of such objects with byte strides
+// `srcStride` and `dstStride` and `count` objects.
+struct FixedShape {
+  std::string_view family, shapes;  // family, or a member's full name
+};
+
+// clang-format off
+inline constexpr FixedShape kFixedShapes[] = {
+  {"DotProduct", "dst="},
+  {"Len", "dst="},
+  {"LenSqr", "dst="},
+  {"tarnCrossProduct_v2_32f", "dst="},
+  {"LookAtLH", "eye=3 at=3 up=3"},
+  {"LookAtRH", "eye=3 at=3 up=3"},
+  {"RotationAxis", "dst=4,4"},
+  {"Det", "dst="},
+  {"Invert", "det="},
+  {"IsIdentity", "result="},
+  {"AffineTransform", "matrix=4,4 dst=4"},
+  {"AffineTransformCoord", "matrix=4,4"},
+  {"AffineTransformNormal", "matrix=4,4"},
+  {"Project", "projection=4,4 view=4,4 world=4,4"},
+  {"Unproject", "projection=4,4 view=4,4 world=4,4"},
+};
+// clang-format on
+
 }  // namespace tarn

@@ -3,6 +3,8 @@
 // together never reach the library; statuses arrive as named error codes or as exceptions.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cstring>
 #include <functional>
 #include <map>
@@ -112,6 +114,51 @@ TEST(Hpp, EveryMemberThroughItsOverloadEqualsTheCCall) {
   }
   EXPECT_GT(members, 500);
 }
+
+struct HppFixedCall {
+  const char* name;
+  std::error_code (*call)(const tt::FixedArgs&);
+};
+
+const HppFixedCall kFixedCalls[] = {
+#include "hppfixed.inc"
+};
+
+// Every fixed-size member but the array forms through its typed form, on the same random
+// operands as the C call: the same status and the same bytes in every buffer.
+TEST(Hpp, EveryFixedMemberThroughItsTypedFormEqualsTheCCall) {
+  int typed = 0;
+  for (const tt::FixedFn& f : tt::fixedCalls()) {
+    const auto h = std::find_if(std::begin(kFixedCalls), std::end(kFixedCalls),
+                                [&](const HppFixedCall& c) { return std::string(c.name) == f.name; });
+    if (h == std::end(kFixedCalls)) continue;
+    float buf[2][8][16];
+    int32_t ints[2] = {7, 7};
+    std::mt19937 rng(99);
+    std::uniform_real_distribution<float> u(-2, 2);
+    for (auto& v : buf[0]) for (float& x : v) x = u(rng);
+    std::memcpy(buf[1], buf[0], sizeof buf[0]);
+    tt::FixedArgs a[2];
+    for (int k = 0; k < 2; ++k) {
+      for (int i = 0; i < 8; ++i) a[k].floats[i] = buf[k][i];
+      a[k].ints = &ints[k];
+      a[k].value = 0.625f;
+    }
+    const tarnStatus st = f.call(a[0]);
+    EXPECT_EQ(h->call(a[1]).value(), st) << f.name;
+    EXPECT_EQ(std::memcmp(buf[0], buf[1], sizeof buf[0]), 0) << f.name;
+    EXPECT_EQ(ints[0], ints[1]) << f.name;
+    ++typed;
+  }
+  EXPECT_GT(typed, 70);
+}
+
+template <class... A>
+concept CanNormalize = requires(A... a) { tarn::normalize(a...); };
+static_assert(CanNormalize<float (&)[3], float (&)[3]>);
+static_assert(CanNormalize<std::array<float, 4>&, std::array<float, 4>&>);
+static_assert(!CanNormalize<float (&)[3], float (&)[4]>);  // lengths that no member pairs
+static_assert(!CanNormalize<float (&)[5], float (&)[5]>);
 
 template <class... A>
 concept CanAdd = requires(A... a) { tarn::add(a...); };

@@ -709,6 +709,7 @@ int main(int argc, char** argv) {
   writeFile(dir + "/pymembers.py", pyMembers(ms));
   writeFile(dir + "/pythunks.inc", pyThunks(ms));
   writeFile(dir + "/hppcalls.inc", hppCalls(ms));
+  writeFile(dir + "/hppfixed.inc", hppFixedCalls(ms));
   std::string names;
   for (const auto& m : ms) names += m.name + "\n";
   writeFile(dir + "/exports.txt", names);
