@@ -11,6 +11,7 @@
 #include "members.hpp"
 #include "operand.hpp"
 #include "platform.hpp"
+#include "simd.hpp"
 
 extern "C" {
 void* kmpc_malloc(size_t size);  // the OpenMP runtime's allocator
@@ -35,7 +36,10 @@ inline ThreadSlice threadSlice(int32_t id, int32_t q, int32_t r) {
 // actually formed, a barrier publishes the split. In families that can fail, each thread stores
 // its status under the library's one critical section if none is stored yet, so the first
 // failing thread to arrive reports. Per-thread scratch, when asked for, is one block from the
-// runtime's allocator, taken before the region and released after it.
+// runtime's allocator, taken before the region and released after it. Every thread of the
+// region rounds, flushes and masks as the calling thread does: the runtime hands the caller's
+// floating-point control to its team only while KMP_INHERIT_FP_CONTROL is on, so a thread whose
+// control differs takes the caller's for its slice and gets its own back (flags included) after.
 template <bool CanFail, class Work>
 tarnStatus parallelRun(int32_t count, size_t scratchPerThread, Work&& work) {
   int32_t status = 0;
@@ -44,6 +48,7 @@ tarnStatus parallelRun(int32_t count, size_t scratchPerThread, Work&& work) {
   std::byte* scratch = nullptr;
   if (scratchPerThread) scratch = static_cast<std::byte*>(kmpc_malloc(size_t(t) * scratchPerThread));
   int32_t q = 0, r = 0;
+  const uint32_t control = simd::fpControl() & ~simd::kFpFlags;
 #pragma omp parallel num_threads(ownGetNumThreads()) shared(q, r, status)
   {
 #pragma omp master
@@ -53,6 +58,8 @@ tarnStatus parallelRun(int32_t count, size_t scratchPerThread, Work&& work) {
       r = count % nt;
     }
 #pragma omp barrier
+    const uint32_t own = simd::fpControl();
+    if ((own & ~simd::kFpFlags) != control) simd::setFpControl(control);
     const int32_t id = omp_get_thread_num();
     const ThreadSlice s = threadSlice(id, q, r);
     const tarnStatus st = work(s.first, s.n, scratch ? scratch + size_t(id) * scratchPerThread : nullptr);
@@ -60,6 +67,7 @@ tarnStatus parallelRun(int32_t count, size_t scratchPerThread, Work&& work) {
 #pragma omp critical(tarnStatusLock)
       if (status == 0) status = st;
     }
+    if ((own & ~simd::kFpFlags) != control) simd::setFpControl(own);
   }
   if (scratch) kmpc_free(scratch);
   return CanFail ? status : tarnStatusOk;

@@ -631,3 +631,15 @@ inline void pack3(__m128 x, __m128 y, __m128 z, __m128& r0, __m128& r1, __m128& 
 }
 
 }  // namespace tarn::simd
+
+// ---- Floating-point control of region threads -----------------------------------------------
+// MXCSR: rounding mode, flush-to-zero, denormals-are-zero and exception masks above bit 5, the
+// sticky exception flags in bits 0 to 5.
+
+namespace tarn::simd {
+
+inline constexpr uint32_t kFpFlags = 0x3f;
+inline uint32_t fpControl() { return _mm_getcsr(); }
+inline void setFpControl(uint32_t csr) { _mm_setcsr(csr); }
+
+}  // namespace tarn::simd
