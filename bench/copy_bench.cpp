@@ -1,5 +1,6 @@
-// Copy between every pair of layouts, 3x3 and 4x4 floats, against the loop a caller writes for
-// that pair: objects outer and elements inner, or, into LayoutP, one stream after the other.
+// Copy between every pair of layouts, 3x3 and 4x4 floats, against the loops a caller writes for
+// that pair: objects outer and elements inner (plain), and where a side is LayoutP also one
+// stream after the other (streams).
 // The source holds the same objects in every layout (LayoutL's tables point at the packed
 // objects, LayoutP's at element streams); each contender's result is checked bit for bit.
 #include <tarn.h>
@@ -34,8 +35,8 @@ struct Batch {
   }
 };
 
-// The loop written for the pair.
-template <L X, L Y, int H, int W>
+// The loop written for the pair, objects outer or streams outer.
+template <L X, L Y, int H, int W, bool Streams>
 void loop(const Batch& b) {
   constexpr int E = H * W;
   const int n = b.n;
@@ -46,16 +47,17 @@ void loop(const Batch& b) {
     else if constexpr (X == L::L) return b.taL[k][x];
     else return b.taP[x][k];
   };
-  if constexpr (Y == L::P) {
-    for (int x = 0; x < E; ++x) {
-      float* s = b.tdP[x];
-      for (int k = 0; k < n; ++k) s[k] = src(k, x);
-    }
+  auto dst = [&](int k, int x) -> float& {
+    if constexpr (Y == L::S) return d[size_t(k) * E + x];
+    else if constexpr (Y == L::L) return b.tdL[k][x];
+    else return b.tdP[x][k];
+  };
+  if constexpr (Streams) {
+    for (int x = 0; x < E; ++x)
+      for (int k = 0; k < n; ++k) dst(k, x) = src(k, x);
   } else {
-    for (int k = 0; k < n; ++k) {
-      float* o = Y == L::S ? d + size_t(k) * E : b.tdL[k];
-      for (int x = 0; x < E; ++x) o[x] = src(k, x);
-    }
+    for (int k = 0; k < n; ++k)
+      for (int x = 0; x < E; ++x) dst(k, x) = src(k, x);
   }
 }
 
@@ -101,14 +103,16 @@ void add() {
   const std::string pair = {names[int(X)], names[int(Y)]};
   const std::string shape = std::to_string(H) + "x" + std::to_string(W);
   for (int n : {2000, 100000, 1000000})
-    for (const char* who : {"tarn", "plain"}) {
+    for (const char* who : {"tarn", "plain", "streams"}) {
+      if (who[0] == 's' && X != L::P && Y != L::P) continue;
       const std::string name = "tarnCopy_ma_32f_" + pair + "/" + shape + "/N:" + std::to_string(n) + "/" + who + "/T:1";
-      const bool isTarn = who[0] == 't';
-      tarnbench::registerBench(name, [n, isTarn](benchmark::State& st) {
+      const char k = who[0];
+      tarnbench::registerBench(name, [n, k](benchmark::State& st) {
         Batch& b = batch(H, W, n);
         auto call = [&] {
-          if (isTarn) tarnCall<X, Y>(b);
-          else loop<X, Y, H, W>(b);
+          if (k == 't') tarnCall<X, Y>(b);
+          else if (k == 'p') loop<X, Y, H, W, false>(b);
+          else loop<X, Y, H, W, true>(b);
         };
         std::memset(Y == L::P ? b.dp.p : b.d.p, 0xff, size_t(b.e()) * n * 4);
         call();
