@@ -13,6 +13,7 @@
 //              per step, a scalar tail.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <numeric>
 #include <type_traits>
@@ -189,7 +190,7 @@ template <class T> inline bool alignedAt(const T* p, int32_t i) { return simd::a
 template <class T> inline bool alignedAt(const Broadcast<T>&, int32_t) { return true; }
 
 template <class T, class Op, class SA, class SB>
-void rowLoop(const Op& op, T* d, const SA& a, const SB& b, int32_t n) {
+void rowLoop(const Op& op, T* d, const SA a, const SB b, const int32_t n) {
   constexpr int kL = simd::kLanes<T>, kStep = 8;
   int32_t i = 0;
   for (; i < n && !simd::aligned16(d + i); ++i) d[i] = op(elemAt(a, i), elemAt(b, i));
@@ -306,6 +307,9 @@ int32_t denseBody(const Op& op, const D& d, const A& a, const B& b, int32_t coun
 template <class A> bool packedStream(const A&) { return false; }
 template <class E> bool packedStream(const ArrP<E>& a) { return a.objStride == int32_t(sizeof(E)); }
 template <class E> bool packedStream(const One<TableObj<E>>&) { return true; }
+template <class A> inline constexpr bool kStreams = false;  // LayoutP streams or one LayoutP object
+template <class E> inline constexpr bool kStreams<ArrP<E>> = true;
+template <class E> inline constexpr bool kStreams<One<TableObj<E>>> = true;
 
 template <class T, int H, int W, class A>
 class StreamReader {
@@ -347,6 +351,56 @@ int32_t streamBody(const Op& op, const D& d, const A& a, const B& b, int32_t cou
   return end;
 }
 
+// Packed streams whose bytes lie apart (the destination's from every source's, and from each
+// other): no order of the elements can be seen, so each stream runs as one long row through the
+// 8-element loop, a single operand's element broadcast. Returns false, having done nothing,
+// where bytes are shared or a byte offset would leave the 32-bit range.
+template <int H, int W, class T, class Op, class D, class A, class B>
+bool streamRows(const Op& op, const D& d, const A& a, const B& b, int32_t count) {
+  constexpr int kN = H * W;
+  constexpr int64_t es = sizeof(T);
+  const int64_t bytes = int64_t(count) * es;
+  T* pd[kN];
+  const auto dv = d.obj(0);
+  for (int e = 0; e < kN; ++e) pd[e] = dv.at(e / W, e % W);
+  auto clash = [&](const void* p, int64_t len, int skip) {
+    const auto x = reinterpret_cast<uintptr_t>(p);
+    for (int e = 0; e < kN; ++e) {
+      const auto y = reinterpret_cast<uintptr_t>(pd[e]);
+      if (e != skip && x < y + uintptr_t(bytes) && y < x + uintptr_t(len)) return true;
+    }
+    return false;
+  };
+  if (int64_t(d.roi) + bytes > INT32_MAX) return false;
+  for (int e = 0; e < kN; ++e)
+    if (clash(pd[e], bytes, e)) return false;
+  auto sources = [&](const auto& x) {
+    using X = std::decay_t<decltype(x)>;
+    std::conditional_t<IsOne<X>::value, Broadcast<T>, const T*> s[kN];
+    const auto o = x.obj(0);
+    for (int e = 0; e < kN; ++e) {
+      const T* p = o.at(e / W, e % W);
+      if constexpr (IsOne<X>::value) s[e] = {loadElem(p)};
+      else s[e] = p;
+    }
+    return std::to_array(s);
+  };
+  auto apart = [&](const auto& x) {
+    using X = std::decay_t<decltype(x)>;
+    if constexpr (!IsOne<X>::value)
+      if (int64_t(x.roi) + bytes > INT32_MAX) return false;
+    const auto o = x.obj(0);
+    for (int e = 0; e < kN; ++e)
+      if (clash(o.at(e / W, e % W), IsOne<X>::value ? es : bytes, -1)) return false;
+    return true;
+  };
+  if (!apart(a) || !apart(b)) return false;
+  const auto sa = sources(a);
+  const auto sb = sources(b);
+  for (int e = 0; e < kN; ++e) rowLoop(op, pd[e], sa[e], sb[e], count);
+  return true;
+}
+
 // Whether the rows of an operand follow each other without a gap; a scalar has no rows.
 template <int W, class A> bool gaplessRows(const A&) { return ScalarAccess<A>::value; }
 template <int W, class E> bool gaplessRows(const ArrS<E, true>& a) { return a.row == W * int32_t(sizeof(E)); }
@@ -367,7 +421,11 @@ void worker(const Op& op, const D& d, const A& a, const B& b, int32_t count, int
       const auto fb = frozen<H * W>(cached<H * W>(b));
       int32_t done = 0;
       if constexpr (S.anyArray)
-        if (packedStream(d) && packedStream(a) && packedStream(b)) done = streamBody<H, W, T>(op, d, a, b, count);
+        if (packedStream(d) && packedStream(a) && packedStream(b)) {
+          if constexpr (kStreams<A> && kStreams<B>)
+            if (streamRows<H, W, T>(op, d, a, b, count)) return;
+          done = streamBody<H, W, T>(op, d, a, b, count);
+        }
       if (done == 0) {
         plainBody<H, W>(op, cached<H * W>(d), fa, fb, count, H, W);
       } else if (done < count) {
