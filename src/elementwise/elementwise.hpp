@@ -32,7 +32,6 @@ namespace tarn::elementwise {
 //                  (len 4 falls to the forward loop by two).
 // Neither changes a result: every element is computed by the same operations on every path.
 //
-//
 // The single operand of an array call, loaded once before the object loop, may enter its
 // product with a scalar once as well: an operation with `pre<I>` says what operand I contributes
 // to the sum, and its `vecPre<PA, PB>` takes the operands flagged as already through it. Every
@@ -224,8 +223,9 @@ template <class T, bool C> bool alignedOperand(const One<StridedObj<T, C>>& a) {
 // are single runs of elements and a group of G objects fills a whole number of 16-byte
 // registers (3x3 floats: four objects are nine registers, 3x3 doubles: two objects are nine, a
 // 4x4 float object is four registers at fixed displacements). Used for groups of up to 18
-// registers (a 6x6 double object), each loaded, combined and stored in turn. Every register covers elements of the group only, so nothing outside the operands
-// is touched; the objects left over after the last whole group take the row body.
+// registers (a 6x6 double object), each loaded, combined and stored in turn. Every register
+// covers elements of the group only, so nothing outside the operands is touched; the objects
+// left over after the last whole group take the row body.
 template <class T, int H, int W>
 struct Dense {
   static constexpr int kObjBytes = H * W * int(sizeof(T));
