@@ -7,6 +7,7 @@
 // how the batch is laid out, the bytes one object costs, and the contenders:
 //   tarn    the export, on 1 and 2 threads (omp_set_num_threads)
 //   plain   the loop written the obvious way, compiled -O3 -msse3 -ffp-contract=off
+//   gcc     the same loop compiled by g++ with the same flags
 //   eigen   Eigen 3.4 fixed-size types mapped onto the same memory
 //   glm     glm, where it has the type and the operation
 //   memref  a 16-byte copy (one read stream) or triad (two read streams) over the same number
@@ -33,6 +34,7 @@
 #include <string>
 #include <vector>
 
+#include "plain_loop.hpp"
 #include "support.hpp"
 
 using tarnbench::Buf;
@@ -41,9 +43,13 @@ using tarnbench::timeCalls;
 
 namespace {
 
-// How the batch is laid out and how the operands pair up.
-enum class Lay { S, L, P };  // packed objects / table of object pointers / one stream per element
-enum class Form { ArrArr, ArrOne };  // mama, vava / mam, vav (second operand is one object)
+using tarnbench::Form;
+using tarnbench::Lay;
+using tarnbench::PlainArgs;
+using tarnbench::Plus;
+using tarnbench::Minus;
+using tarnbench::Axpy;
+using tarnbench::Comb;
 
 struct Shape {
   int h, w, esize;
@@ -78,12 +84,6 @@ struct Ctx {
   template <class T> const T* const* TA() const { return reinterpret_cast<const T* const*>(ta.data()); }
   template <class T> const T* const* TB() const { return reinterpret_cast<const T* const*>(tb.data()); }
   template <class T> T* const* TD() const { return reinterpret_cast<T* const*>(td.data()); }
-};
-
-// ---- Operations (scalar, Eigen and glm alike) -------------------------------------------------
-
-struct Plus {
-  template <class X, class Y> auto operator()(const X& x, const Y& y) const { return x + y; }
 };
 
 template <class T, class Op>
@@ -148,45 +148,25 @@ double bytesPerObj(Shape s) {
   return double(streams) * s.elems() * s.esize + (s.lay == Lay::L ? streams * double(sizeof(void*)) : 0.0);
 }
 
-// The loop a caller writes, one per layout.
+// The loop a caller writes (plain_loop.hpp), built by this compiler or by g++.
+PlainArgs plainArgs(const Ctx& c) {
+  return {c.s.lay, c.s.form, c.n, c.a.p, c.b.p, c.d.p, c.ta.data(), c.tb.data(), c.td.data()};
+}
 template <class T, int H, int W, class Op>
 void plainLoop(const Ctx& c, int) {
-  constexpr int E = H * W;
-  const int32_t n = c.n;
-  const bool one = c.s.form == Form::ArrOne;
-  if (c.s.lay == Lay::S) {
-    const T* a = c.A<T>();
-    const T* b = c.B<T>();
-    T* d = c.D<T>();
-    if (one) {
-      for (int32_t i = 0; i < n; ++i)
-        for (int r = 0; r < H; ++r)
-          for (int k = 0; k < W; ++k) d[i * E + r * W + k] = Op{}(a[i * E + r * W + k], b[r * W + k]);
-    } else {
-      for (int32_t i = 0; i < n; ++i)
-        for (int r = 0; r < H; ++r)
-          for (int k = 0; k < W; ++k) d[i * E + r * W + k] = Op{}(a[i * E + r * W + k], b[i * E + r * W + k]);
-    }
-  } else if (c.s.lay == Lay::L) {
-    for (int32_t i = 0; i < n; ++i) {
-      const T* a = c.TA<T>()[i];
-      const T* b = one ? c.B<T>() : c.TB<T>()[i];
-      T* d = c.TD<T>()[i];
-      for (int r = 0; r < H; ++r)
-        for (int k = 0; k < W; ++k) d[r * W + k] = Op{}(a[r * W + k], b[r * W + k]);
-    }
-  } else {  // one stream per element: the structure-of-arrays loop
-    for (int e = 0; e < E; ++e) {
-      const T* a = c.TA<T>()[e];
-      const T* b = c.TB<T>()[e];
-      T* d = c.TD<T>()[e];
-      if (one)
-        for (int32_t i = 0; i < n; ++i) d[i] = Op{}(a[i], b[0]);
-      else
-        for (int32_t i = 0; i < n; ++i) d[i] = Op{}(a[i], b[i]);
-    }
-  }
+  tarnbench::plain::plainLoop<T, H, W, Op>(plainArgs(c));
 }
+#ifdef TARN_BENCH_GCC
+}  // namespace
+namespace tarnbench::gcc {
+template <class T, int H, int W, class Op> void plainLoop(const PlainArgs&);  // gcc_plain.cpp
+}
+namespace {
+template <class T, int H, int W, class Op>
+void gccLoop(const Ctx& c, int) {
+  tarnbench::gcc::plainLoop<T, H, W, Op>(plainArgs(c));
+}
+#endif
 
 template <class T, int H, int W>
 using EigenObj = Eigen::Matrix<T, H, W, (W == 1 ? Eigen::ColMajor : Eigen::RowMajor)>;
@@ -303,6 +283,9 @@ Workload row(const char* exportName, Lay lay, Form form, std::function<void(cons
   wl.setup = [s](int32_t n) { return makeCtx<T, Op>(s, n); };
   wl.contenders.push_back({"tarn", Who::Tarn, [tarn](const Ctx& c, int) { tarn(c); }});
   wl.contenders.push_back({"plain", Who::Peer, plainLoop<T, H, W, Op>});
+#ifdef TARN_BENCH_GCC
+  wl.contenders.push_back({"gcc", Who::Peer, gccLoop<T, H, W, Op>});
+#endif
   wl.contenders.push_back({"eigen", Who::Peer, eigenLoop<T, H, W, Op>});
   if constexpr (!std::is_void_v<typename GlmOf<T, H, W>::type>)
     if (lay != Lay::P) wl.contenders.push_back({"glm", Who::Peer, glmLoop<T, H, W, Op>});
@@ -359,6 +342,40 @@ auto vavS(tarnStatus (*f)(const T*, int32_t, int32_t, const T*, int32_t, T*, int
   };
 }
 
+// Saxpy and LComb take their scalars behind the operand they scale.
+template <class T>
+auto saxpyVavaS(tarnStatus (*f)(const T*, int32_t, int32_t, T, const T*, int32_t, int32_t, T*, int32_t, int32_t,
+                                int32_t, int32_t)) {
+  return [f](const Ctx& c) {
+    const int32_t es = sizeof(T);
+    f(c.A<T>(), c.os(), es, Axpy<T>::s, c.B<T>(), c.os(), es, c.D<T>(), c.os(), es, c.s.w, c.n);
+  };
+}
+template <class T>
+auto saxpyVavS(tarnStatus (*f)(const T*, int32_t, int32_t, T, const T*, int32_t, T*, int32_t, int32_t, int32_t,
+                               int32_t)) {
+  return [f](const Ctx& c) {
+    const int32_t es = sizeof(T);
+    f(c.A<T>(), c.os(), es, Axpy<T>::s, c.B<T>(), es, c.D<T>(), c.os(), es, c.s.w, c.n);
+  };
+}
+template <class T>
+auto lcombVavaS(tarnStatus (*f)(const T*, int32_t, int32_t, T, const T*, int32_t, int32_t, T, T*, int32_t, int32_t,
+                                int32_t, int32_t)) {
+  return [f](const Ctx& c) {
+    const int32_t es = sizeof(T);
+    f(c.A<T>(), c.os(), es, Comb<T>::s1, c.B<T>(), c.os(), es, Comb<T>::s2, c.D<T>(), c.os(), es, c.s.w, c.n);
+  };
+}
+template <class T>
+auto lcombVavS(tarnStatus (*f)(const T*, int32_t, int32_t, T, const T*, int32_t, T, T*, int32_t, int32_t, int32_t,
+                               int32_t)) {
+  return [f](const Ctx& c) {
+    const int32_t es = sizeof(T);
+    f(c.A<T>(), c.os(), es, Comb<T>::s1, c.B<T>(), es, Comb<T>::s2, c.D<T>(), c.os(), es, c.s.w, c.n);
+  };
+}
+
 using enum Lay;
 using enum Form;
 
@@ -376,6 +393,31 @@ const std::vector<Workload> kWorkloads = {
   row<float, 3, 3>("tarnAdd_mama_32f_P", P, ArrArr, mamaP(tarnAdd_mama_32f_P)),
   row<float, 1, 3>("tarnAdd_vava_32f",   S, ArrArr, vavaS(tarnAdd_vava_32f)),
   row<float, 1, 3>("tarnAdd_vav_32f",    S, ArrOne, vavS(tarnAdd_vav_32f)),
+  // The rest of the element-wise families in cache and beyond: 6x6, 64f vectors, Sub, Saxpy, LComb.
+  row<float, 6, 6>("tarnAdd_mama_32f",   S, ArrArr, mamaS(tarnAdd_mama_32f)),
+  row<double, 6, 6>("tarnAdd_mama_64f",  S, ArrArr, mamaS(tarnAdd_mama_64f)),
+  row<float, 6, 6>("tarnAdd_mam_32f",    S, ArrOne, mamS(tarnAdd_mam_32f)),
+  row<double, 6, 6>("tarnAdd_mam_64f",   S, ArrOne, mamS(tarnAdd_mam_64f)),
+  row<double, 1, 3>("tarnAdd_vava_64f",  S, ArrArr, vavaS(tarnAdd_vava_64f)),
+  row<double, 1, 3>("tarnAdd_vav_64f",   S, ArrOne, vavS(tarnAdd_vav_64f)),
+  row<float, 3, 3, Minus>("tarnSub_mama_32f",  S, ArrArr, mamaS(tarnSub_mama_32f)),
+  row<float, 4, 4, Minus>("tarnSub_mama_32f",  S, ArrArr, mamaS(tarnSub_mama_32f)),
+  row<float, 6, 6, Minus>("tarnSub_mama_32f",  S, ArrArr, mamaS(tarnSub_mama_32f)),
+  row<double, 3, 3, Minus>("tarnSub_mama_64f", S, ArrArr, mamaS(tarnSub_mama_64f)),
+  row<double, 4, 4, Minus>("tarnSub_mama_64f", S, ArrArr, mamaS(tarnSub_mama_64f)),
+  row<double, 6, 6, Minus>("tarnSub_mama_64f", S, ArrArr, mamaS(tarnSub_mama_64f)),
+  row<float, 3, 3, Minus>("tarnSub_mam_32f",   S, ArrOne, mamS(tarnSub_mam_32f)),
+  row<float, 4, 4, Minus>("tarnSub_mam_32f",   S, ArrOne, mamS(tarnSub_mam_32f)),
+  row<float, 1, 3, Minus>("tarnSub_vava_32f",  S, ArrArr, vavaS(tarnSub_vava_32f)),
+  row<double, 1, 3, Minus>("tarnSub_vava_64f", S, ArrArr, vavaS(tarnSub_vava_64f)),
+  row<float, 1, 3, Axpy<float>>("tarnSaxpy_vava_32f",   S, ArrArr, saxpyVavaS(tarnSaxpy_vava_32f)),
+  row<double, 1, 3, Axpy<double>>("tarnSaxpy_vava_64f", S, ArrArr, saxpyVavaS(tarnSaxpy_vava_64f)),
+  row<float, 1, 3, Axpy<float>>("tarnSaxpy_vav_32f",    S, ArrOne, saxpyVavS(tarnSaxpy_vav_32f)),
+  row<double, 1, 3, Axpy<double>>("tarnSaxpy_vav_64f",  S, ArrOne, saxpyVavS(tarnSaxpy_vav_64f)),
+  row<float, 1, 3, Comb<float>>("tarnLComb_vava_32f",   S, ArrArr, lcombVavaS(tarnLComb_vava_32f)),
+  row<double, 1, 3, Comb<double>>("tarnLComb_vava_64f", S, ArrArr, lcombVavaS(tarnLComb_vava_64f)),
+  row<float, 1, 3, Comb<float>>("tarnLComb_vav_32f",    S, ArrOne, lcombVavS(tarnLComb_vav_32f)),
+  row<double, 1, 3, Comb<double>>("tarnLComb_vav_64f",  S, ArrOne, lcombVavS(tarnLComb_vav_64f)),
 };
 // clang-format on
 
@@ -458,6 +500,9 @@ int main(int argc, char** argv) {
         }
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  // The first workload would otherwise meet a core that has been idle: busy it for a moment.
+  for (auto t0 = std::chrono::steady_clock::now(); std::chrono::steady_clock::now() - t0 < std::chrono::milliseconds(300);) {
+  }
   benchmark::RunSpecifiedBenchmarks();
   benchmark::Shutdown();
   return 0;

@@ -723,8 +723,8 @@ int main() {
   std::printf("Project, then Unproject: every point of the cloud (coordinates within +-8) back within %.2g of where\n"
               "it started. Project and Unproject run on one thread; AffineTransform3DH on all of them.\n",
               cloud.roundTrip());
-  std::printf("Copy converts between any two layouts with one element-by-element loop; a loop written for\n"
-              "one fixed pair of layouts and one object size can beat it.\n");
+  std::printf("Copy moves elements in the member's order wherever overlapping operands could see it; operands\n"
+              "apart from each other move whole objects, or a register of objects through LayoutP streams.\n");
   allGood &= solvers(threads);
   allGood &= principalAxes(threads);
   allGood &= eigenSection(threads);

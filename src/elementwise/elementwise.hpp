@@ -13,6 +13,7 @@
 //              per step, a scalar tail.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <numeric>
 #include <type_traits>
@@ -30,6 +31,11 @@ namespace tarn::elementwise {
 //   kNoPairLen4    the contiguous LayoutS 32f worker of two vector arrays has no len-4 body
 //                  (len 4 falls to the forward loop by two).
 // Neither changes a result: every element is computed by the same operations on every path.
+//
+// The single operand of an array call, loaded once before the object loop, may enter its
+// product with a scalar once as well: an operation with `pre<I>` says what operand I contributes
+// to the sum, and its `vecPre<PA, PB>` takes the operands flagged as already through it. Every
+// product is the same rounding whether it is formed once or per object.
 struct AddOp {
   static constexpr bool kArrayRowLoop = true, kNoPairLen4 = false;
   template <class T> T operator()(T a, T b) const { return a + b; }
@@ -50,6 +56,10 @@ struct SaxpyOp {
   T s;
   T operator()(T a, T b) const { return a * s + b; }
   template <class V> V vec(V a, V b) const { return simd::add(simd::mul(a, simd::broadcast(s)), b); }
+  template <int I, class V> V pre(V x) const { return I == 0 ? simd::mul(x, simd::broadcast(s)) : x; }
+  template <bool PA, bool PB, class V> V vecPre(V a, V b) const {
+    return simd::add(PA ? a : simd::mul(a, simd::broadcast(s)), b);
+  }
 };
 template <class T>
 struct LCombOp {
@@ -59,7 +69,22 @@ struct LCombOp {
   template <class V> V vec(V a, V b) const {
     return simd::add(simd::mul(a, simd::broadcast(s1)), simd::mul(b, simd::broadcast(s2)));
   }
+  template <int I, class V> V pre(V x) const { return simd::mul(x, simd::broadcast(I == 0 ? s1 : s2)); }
+  template <bool PA, bool PB, class V> V vecPre(V a, V b) const {
+    return simd::add(PA ? a : simd::mul(a, simd::broadcast(s1)), PB ? b : simd::mul(b, simd::broadcast(s2)));
+  }
 };
+
+template <int I, class Op, class V>
+V preOf(const Op& op, V x) {
+  if constexpr (requires { op.template pre<I>(x); }) return op.template pre<I>(x);
+  else return x;
+}
+template <bool PA, bool PB, class Op, class V>
+V vecOf(const Op& op, V a, V b) {
+  if constexpr (requires { op.template vecPre<PA, PB>(a, b); }) return op.template vecPre<PA, PB>(a, b);
+  else return op.vec(a, b);
+}
 
 // ---- plainBody -------------------------------------------------------------------------
 
@@ -85,8 +110,8 @@ void plainBody(const Op& op, const D& d, const A& a, const B& b, int32_t count, 
 
 enum class Align { No, Yes, PerObject };
 
-// Rows of one source operand as registers: loaded per object, preloaded once for the single
-// operand of an array call, or a broadcast scalar.
+// Rows of one source operand (operand I of the operation) as registers: loaded per object,
+// preloaded once for the single operand of an array call, or a broadcast scalar.
 template <class T, int H, int W, class A>
 class RowReader {
   static constexpr bool kScalar = ScalarAccess<A>::value;
@@ -96,10 +121,14 @@ class RowReader {
   R pre_[kShared && !kScalar ? H : 1];
 
  public:
-  explicit RowReader(const A& a) : a_(a) {
+  template <int I, class Op>
+  RowReader(const A& a, const Op& op, std::integral_constant<int, I>) : a_(a) {
     if constexpr (kShared && kScalar) pre_[0] = simd::broadcastRow<W>(T(loadElem(a_.obj(0).at(0, 0))));
     else if constexpr (kShared)
       for (int r = 0; r < H; ++r) pre_[r] = simd::loadRow<W, false>(a_.obj(0).rowPtr(r));
+    if constexpr (kShared)
+      for (R& x : pre_)
+        for (auto& v : x.c) v = preOf<I>(op, v);
   }
   auto object(int32_t n) const { return a_.obj(kShared ? 0 : n); }
   template <class O>
@@ -118,14 +147,15 @@ class RowReader {
 
 template <int H, int W, Align Al, class T, class Op, class D, class A, class B>
 void rowBody(const Op& op, const D& d, const A& a, const B& b, int32_t count) {
-  const RowReader<T, H, W, A> ra(a);
-  const RowReader<T, H, W, B> rb(b);
+  const RowReader<T, H, W, A> ra(a, op, std::integral_constant<int, 0>{});
+  const RowReader<T, H, W, B> rb(b, op, std::integral_constant<int, 1>{});
+  constexpr bool kPa = IsOne<A>::value, kPb = IsOne<B>::value;
   auto one = [&]<bool Aligned>(const auto& dv, const auto& av, const auto& bv) {
     simd::Row<T, W> x[H];
     for (int r = 0; r < H; ++r) {
       const auto ya = ra.template row<Aligned>(av, r);
       const auto yb = rb.template row<Aligned>(bv, r);
-      for (int k = 0; k < simd::chunks<T, W>(); ++k) x[r].c[k] = op.vec(ya.c[k], yb.c[k]);
+      for (int k = 0; k < simd::chunks<T, W>(); ++k) x[r].c[k] = vecOf<kPa, kPb>(op, ya.c[k], yb.c[k]);
     }
     for (int r = 0; r < H; ++r) simd::storeRow<W, Aligned>(dv.rowPtr(r), x[r]);
   };
@@ -159,7 +189,7 @@ template <class T> inline bool alignedAt(const T* p, int32_t i) { return simd::a
 template <class T> inline bool alignedAt(const Broadcast<T>&, int32_t) { return true; }
 
 template <class T, class Op, class SA, class SB>
-void rowLoop(const Op& op, T* d, const SA& a, const SB& b, int32_t n) {
+void rowLoop(const Op& op, T* d, const SA a, const SB b, const int32_t n) {
   constexpr int kL = simd::kLanes<T>, kStep = 8;
   int32_t i = 0;
   for (; i < n && !simd::aligned16(d + i); ++i) d[i] = op(elemAt(a, i), elemAt(b, i));
@@ -192,15 +222,16 @@ template <class T, bool C> bool alignedOperand(const One<StridedObj<T, C>>& a) {
 // Packed batches: rows follow each other without a gap and objects too, so the array operands
 // are single runs of elements and a group of G objects fills a whole number of 16-byte
 // registers (3x3 floats: four objects are nine registers, 3x3 doubles: two objects are nine, a
-// 4x4 float object is four registers at fixed displacements). Used where the group fits in 12
-// registers. Every register covers elements of the group only, so nothing outside the operands
-// is touched; the objects left over after the last whole group take the row body.
+// 4x4 float object is four registers at fixed displacements). Used for groups of up to 18
+// registers (a 6x6 double object), each loaded, combined and stored in turn. Every register
+// covers elements of the group only, so nothing outside the operands is touched; the objects
+// left over after the last whole group take the row body.
 template <class T, int H, int W>
 struct Dense {
   static constexpr int kObjBytes = H * W * int(sizeof(T));
   static constexpr int kGroup = 16 / std::gcd(kObjBytes, 16);
   static constexpr int kRegs = kGroup * kObjBytes / 16;
-  static constexpr bool kUse = kRegs <= 12;
+  static constexpr bool kUse = kRegs <= 18;
 };
 
 template <int H, int W, class A> bool denseOperand(const A&) { return false; }  // one scalar per object
@@ -227,7 +258,8 @@ class DenseReader {
   simd::Vec<T> pre_[kShared ? Dn::kRegs : 1];
 
  public:
-  explicit DenseReader(const A& a) {
+  template <int I, class Op>
+  DenseReader(const A& a, const Op& op, std::integral_constant<int, I>) {
     if constexpr (!kShared) base_ = a.obj(0).p;
     if constexpr (kShared) {
       alignas(16) T rep[Dn::kRegs * kL];
@@ -235,7 +267,7 @@ class DenseReader {
       for (int g = 0; g < Dn::kGroup; ++g)
         for (int r = 0; r < H; ++r)
           for (int c = 0; c < W; ++c) rep[(g * H + r) * W + c] = loadElem(o.at(r, c));
-      for (int k = 0; k < Dn::kRegs; ++k) pre_[k] = simd::load<kL, true>(rep + k * kL);
+      for (int k = 0; k < Dn::kRegs; ++k) pre_[k] = preOf<I>(op, simd::load<kL, true>(rep + k * kL));
     }
   }
   // Register k of the group whose first object lies `off` bytes behind object 0.
@@ -250,8 +282,9 @@ template <int H, int W, bool Al, class T, class Op, class D, class A, class B>
 int32_t denseBody(const Op& op, const D& d, const A& a, const B& b, int32_t count) {
   using Dn = Dense<T, H, W>;
   constexpr int kL = simd::kLanes<T>;
-  const DenseReader<T, H, W, Al, A> ra(a);
-  const DenseReader<T, H, W, Al, B> rb(b);
+  const DenseReader<T, H, W, Al, A> ra(a, op, std::integral_constant<int, 0>{});
+  const DenseReader<T, H, W, Al, B> rb(b, op, std::integral_constant<int, 1>{});
+  constexpr bool kPa = IsOne<A>::value, kPb = IsOne<B>::value;
   // Every array operand has objStride kObjBytes here, so object n of each lies n*kObjBytes
   // bytes (a 32-bit product) behind its first; the offset is carried from group to group.
   T* const d0 = d.obj(0).p;
@@ -260,7 +293,7 @@ int32_t denseBody(const Op& op, const D& d, const A& a, const B& b, int32_t coun
   for (int32_t n = 0; n < end; n += Dn::kGroup, off += uint32_t(Dn::kGroup * Dn::kObjBytes)) {
     const std::ptrdiff_t o = int32_t(off);
     T* pd = byteAdd(d0, o);
-    for (int k = 0; k < Dn::kRegs; ++k) simd::store<kL, Al>(pd + k * kL, op.vec(ra.reg(o, k), rb.reg(o, k)));
+    for (int k = 0; k < Dn::kRegs; ++k) simd::store<kL, Al>(pd + k * kL, vecOf<kPa, kPb>(op, ra.reg(o, k), rb.reg(o, k)));
   }
   return end;
 }
@@ -274,6 +307,9 @@ int32_t denseBody(const Op& op, const D& d, const A& a, const B& b, int32_t coun
 template <class A> bool packedStream(const A&) { return false; }
 template <class E> bool packedStream(const ArrP<E>& a) { return a.objStride == int32_t(sizeof(E)); }
 template <class E> bool packedStream(const One<TableObj<E>>&) { return true; }
+template <class A> inline constexpr bool kStreams = false;  // LayoutP streams or one LayoutP object
+template <class E> inline constexpr bool kStreams<ArrP<E>> = true;
+template <class E> inline constexpr bool kStreams<One<TableObj<E>>> = true;
 
 template <class T, int H, int W, class A>
 class StreamReader {
@@ -283,10 +319,11 @@ class StreamReader {
   simd::Vec<T> pre_[kShared ? kN : 1];
 
  public:
-  explicit StreamReader(const A& a) {
+  template <int I, class Op>
+  StreamReader(const A& a, const Op& op, std::integral_constant<int, I>) {
     const auto o = a.obj(0);
     for (int e = 0; e < kN; ++e) {
-      if constexpr (kShared) pre_[e] = simd::broadcast(T(loadElem(o.at(e / W, e % W))));
+      if constexpr (kShared) pre_[e] = preOf<I>(op, simd::broadcast(T(loadElem(o.at(e / W, e % W)))));
       else base_[e] = o.at(e / W, e % W);
     }
   }
@@ -300,17 +337,68 @@ class StreamReader {
 template <int H, int W, class T, class Op, class D, class A, class B>
 int32_t streamBody(const Op& op, const D& d, const A& a, const B& b, int32_t count) {
   constexpr int kN = H * W, kL = simd::kLanes<T>;
-  const StreamReader<T, H, W, A> ra(a);
-  const StreamReader<T, H, W, B> rb(b);
+  const StreamReader<T, H, W, A> ra(a, op, std::integral_constant<int, 0>{});
+  const StreamReader<T, H, W, B> rb(b, op, std::integral_constant<int, 1>{});
+  constexpr bool kPa = IsOne<A>::value, kPb = IsOne<B>::value;
   T* pd[kN];
   const auto dv = d.obj(0);
   for (int e = 0; e < kN; ++e) pd[e] = dv.at(e / W, e % W);
   const int32_t end = count - count % kL;
   for (int32_t n = 0; n < end; n += kL) {
     const std::ptrdiff_t off = off32(n, int32_t(sizeof(T)));
-    for (int e = 0; e < kN; ++e) simd::store<kL, false>(byteAdd(pd[e], off), op.vec(ra.reg(e, off), rb.reg(e, off)));
+    for (int e = 0; e < kN; ++e) simd::store<kL, false>(byteAdd(pd[e], off), vecOf<kPa, kPb>(op, ra.reg(e, off), rb.reg(e, off)));
   }
   return end;
+}
+
+// Packed streams whose bytes lie apart (the destination's from every source's, and from each
+// other): no order of the elements can be seen, so each stream runs as one long row through the
+// 8-element loop, a single operand's element broadcast. Returns false, having done nothing,
+// where bytes are shared or a byte offset would leave the 32-bit range.
+template <int H, int W, class T, class Op, class D, class A, class B>
+bool streamRows(const Op& op, const D& d, const A& a, const B& b, int32_t count) {
+  constexpr int kN = H * W;
+  constexpr int64_t es = sizeof(T);
+  const int64_t bytes = int64_t(count) * es;
+  T* pd[kN];
+  const auto dv = d.obj(0);
+  for (int e = 0; e < kN; ++e) pd[e] = dv.at(e / W, e % W);
+  auto clash = [&](const void* p, int64_t len, int skip) {
+    const auto x = reinterpret_cast<uintptr_t>(p);
+    for (int e = 0; e < kN; ++e) {
+      const auto y = reinterpret_cast<uintptr_t>(pd[e]);
+      if (e != skip && x < y + uintptr_t(bytes) && y < x + uintptr_t(len)) return true;
+    }
+    return false;
+  };
+  if (int64_t(d.roi) + bytes > INT32_MAX) return false;
+  for (int e = 0; e < kN; ++e)
+    if (clash(pd[e], bytes, e)) return false;
+  auto sources = [&](const auto& x) {
+    using X = std::decay_t<decltype(x)>;
+    std::conditional_t<IsOne<X>::value, Broadcast<T>, const T*> s[kN];
+    const auto o = x.obj(0);
+    for (int e = 0; e < kN; ++e) {
+      const T* p = o.at(e / W, e % W);
+      if constexpr (IsOne<X>::value) s[e] = {loadElem(p)};
+      else s[e] = p;
+    }
+    return std::to_array(s);
+  };
+  auto apart = [&](const auto& x) {
+    using X = std::decay_t<decltype(x)>;
+    if constexpr (!IsOne<X>::value)
+      if (int64_t(x.roi) + bytes > INT32_MAX) return false;
+    const auto o = x.obj(0);
+    for (int e = 0; e < kN; ++e)
+      if (clash(o.at(e / W, e % W), IsOne<X>::value ? es : bytes, -1)) return false;
+    return true;
+  };
+  if (!apart(a) || !apart(b)) return false;
+  const auto sa = sources(a);
+  const auto sb = sources(b);
+  for (int e = 0; e < kN; ++e) rowLoop(op, pd[e], sa[e], sb[e], count);
+  return true;
 }
 
 // Whether the rows of an operand follow each other without a gap; a scalar has no rows.
@@ -333,7 +421,11 @@ void worker(const Op& op, const D& d, const A& a, const B& b, int32_t count, int
       const auto fb = frozen<H * W>(cached<H * W>(b));
       int32_t done = 0;
       if constexpr (S.anyArray)
-        if (packedStream(d) && packedStream(a) && packedStream(b)) done = streamBody<H, W, T>(op, d, a, b, count);
+        if (packedStream(d) && packedStream(a) && packedStream(b)) {
+          if constexpr (kStreams<A> && kStreams<B>)
+            if (streamRows<H, W, T>(op, d, a, b, count)) return;
+          done = streamBody<H, W, T>(op, d, a, b, count);
+        }
       if (done == 0) {
         plainBody<H, W>(op, cached<H * W>(d), fa, fb, count, H, W);
       } else if (done < count) {

@@ -3,8 +3,13 @@
 namespace tarn {
 namespace {
 
-bool badStride(int32_t s, int32_t esize) { return s < 1 || s % esize != 0; }
-bool badShift(int32_t s, int32_t esize) { return s < 0 || s % esize != 0; }
+// Element sizes are powers of two (4, 8): whether a stride is a multiple is a test of its low
+// bits, which spares every stride of every call an integer division.
+bool notMultiple(int32_t s, int32_t esize) {
+  return (esize & (esize - 1)) == 0 ? (s & (esize - 1)) != 0 : s % esize != 0;
+}
+bool badStride(int32_t s, int32_t esize) { return s < 1 || notMultiple(s, esize); }
+bool badShift(int32_t s, int32_t esize) { return s < 0 || notMultiple(s, esize); }
 
 // Rows and columns of an operand as the product sees it: sizes describe it as stored, a `t`
 // operand is read transposed, a vector is a column.
