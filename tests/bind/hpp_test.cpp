@@ -13,37 +13,14 @@
 #include <vector>
 
 #include "harness.hpp"
+#include "shapes.hpp"
 #include "tarn.hpp"
 
 namespace {
 
-using Sizes = std::map<std::string, int>;
-
-// Sizes chosen unequal, so a width passed as a height shows; the shape rule then fixes the
-// sizes it ties together.
-int defaultSize(const std::string& name) {
-  if (name == "width" || name.ends_with("Width")) return 3;
-  if (name == "height" || name.ends_with("Height")) return 4;
-  if (name == "len" || name.ends_with("Len")) return 5;
-  return 3;  // widthHeight
-}
-
-struct HppCall {
-  const char* name;
-  void (*sizes)(Sizes&);
-  tt::Extent (*extent)(const Sizes&, int block);
-  std::error_code (*call)(const tt::Args&, const Sizes&);
-};
-
-const HppCall kCalls[] = {
-#include "hppcalls.inc"
-};
-
-const HppCall* hppCall(const std::string& name) {
-  for (const auto& c : kCalls)
-    if (name == c.name) return &c;
-  return nullptr;
-}
+using tt::Sizes;
+using HppCall = tt::MemberShape;
+const HppCall* hppCall(const std::string& name) { return tt::shapeOf(name); }
 
 struct Placed {
   std::unique_ptr<tt::CallFixture> fx;

@@ -7,33 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "members.hpp"
+#include "checks.hpp"
 
 namespace tt {
 namespace {
-
-tarnStatus statusOf(char letter) {
-  switch (letter) {
-    case 'N': return tarnStatusNullPointer;
-    case 'C': return tarnStatusBadCount;
-    case 'Z': return tarnStatusBadSize;
-    case 'H': return tarnStatusShapeMismatch;
-    case 'T': case 'E': case 'O': return tarnStatusBadStride;
-    case 'R': return tarnStatusBadRoiShift;
-  }
-  return 1;
-}
-
-// A check of the sequence: its letter, and `s` or `d` when it covers only the blocks the member
-// reads or only those it writes.
-struct Check {
-  char letter, scope;
-};
-std::vector<Check> checksOf(const char* seq) {
-  std::vector<Check> out;
-  for (const char* p = seq; *p; ++p) out.push_back({*p, p[1] == 's' || p[1] == 'd' ? *++p : char(0)});
-  return out;
-}
 
 // Memory that every pointer of a valid call points into: tables whose entries point into the
 // same pool, so a call that wrongly passed its checks would still stay inside it.
@@ -56,7 +33,6 @@ struct Fixture {
     base.width = base.height = base.len = base.order = 3;
     base.count = 2;
   }
-  bool inScope(int i, char scope) const { return scope == 0 || (scope == 'd') == m.blk[i].out; }
   // Applies the fault of one check; false when the member has nothing the check looks at.
   bool inject(Check k, Args& a) const {
     const int bad = esize / 2;  // not a multiple of the element size
@@ -81,12 +57,12 @@ struct Fixture {
         return true;
       case 'R':
         for (int i = 0; i < m.nop; ++i)
-          if ((m.blk[i].has & kRoi) && inScope(i, k.scope)) return a.op[i].roi = bad, true;
+          if ((m.blk[i].has & kRoi) && inScope(m, i, k.scope)) return a.op[i].roi = bad, true;
         return false;
       case 'T': case 'E': case 'O': {
         const uint8_t fields = k.letter == 'T' ? (kObj | kRow | kElem) : k.letter == 'E' ? (kRow | kElem) : kObj;
         for (int i = m.nop - 1; i >= 0; --i) {
-          const uint8_t f = inScope(i, k.scope) ? m.blk[i].has & fields : 0;
+          const uint8_t f = inScope(m, i, k.scope) ? m.blk[i].has & fields : 0;
           if (f & kElem) return a.op[i].elem = bad, true;
           if (f & kRow) return a.op[i].row = bad, true;
           if (f & kObj) return a.op[i].obj = bad, true;

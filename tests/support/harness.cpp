@@ -66,4 +66,11 @@ std::string CallFixture::untouched(const std::vector<int>& writable) const {
   return why.str();
 }
 
+std::string CallFixture::unchanged() const {
+  std::ostringstream why;
+  for (int i = 0; i < m_.nop; ++i)
+    if (!ops_[size_t(i)]->unchangedSince(snap_[size_t(i)])) why << "argument " << i << " was written; ";
+  return why.str();
+}
+
 }  // namespace tt

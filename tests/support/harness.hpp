@@ -57,6 +57,8 @@ class CallFixture {
   // Empty when every source is unchanged (unless `writable`) and every byte that is not an
   // element of some block still holds its canary; else what went wrong.
   std::string untouched(const std::vector<int>& writable = {}) const;
+  // Empty when no byte of any argument changed at all (a call that failed its checks).
+  std::string unchanged() const;
 
  private:
   const MemberFn& m_;
