@@ -30,7 +30,7 @@ using tarnbench::Buf;
 
 enum class Op { Mva, Mava, GaxpyMva, Mac };
 
-struct Spec {
+struct Workload {
   const char* exportName;
   Op op;
   int n;  // order of the matrices
@@ -39,7 +39,7 @@ struct Spec {
 // The batch: `m` the matrices (one, or one per object), `v` the vectors, `s` Gaxpy's addends,
 // `d` the results, all packed; `one` the constant of Mac.
 struct Ctx {
-  Spec spec;
+  Workload work;
   int32_t count;
   Buf m, v, s, d, want, approx;
   float one = 0.7071067f;
@@ -48,12 +48,12 @@ struct Ctx {
   size_t stream = 0;
   int streams = 2;
   std::vector<std::string> verified;
-  int elemsOut() const { return spec.op == Op::Mac ? spec.n * spec.n : spec.n; }
+  int elemsOut() const { return work.op == Op::Mac ? work.n * work.n : work.n; }
 };
 
 bool matrixArray(Op op) { return op == Op::Mava || op == Op::Mac; }
 
-double bytesPerObj(const Spec& s) {
+double bytesPerObj(const Workload& s) {
   const double nn = s.n * s.n * 4.0, nv = s.n * 4.0;
   switch (s.op) {
     case Op::Mva: return 2 * nv;
@@ -67,9 +67,9 @@ double bytesPerObj(const Spec& s) {
 // tarn's documented order for the fixed sizes 3 and 4.
 float laneSum(const float* p, int n) { return n == 3 ? (p[0] + p[1]) + p[2] : (p[0] + p[2]) + (p[1] + p[3]); }
 
-std::unique_ptr<Ctx> makeCtx(const Spec& sp, int32_t count) {
+std::unique_ptr<Ctx> makeCtx(const Workload& sp, int32_t count) {
   auto c = std::make_unique<Ctx>();
-  c->spec = sp;
+  c->work = sp;
   c->count = count;
   const size_t n = size_t(sp.n), objs = size_t(count);
   const size_t mats = matrixArray(sp.op) ? objs : 1;
@@ -114,11 +114,11 @@ std::unique_ptr<Ctx> makeCtx(const Spec& sp, int32_t count) {
 // ---- Contenders ----------------------------------------------------------------------------
 
 void tarnCall(const Ctx& c) {
-  const int n = c.spec.n, row = 4 * n, obj = 4 * n * n;
+  const int n = c.work.n, row = 4 * n, obj = 4 * n * n;
   const float* m = c.m.as<const float>();
   const float* v = c.v.as<const float>();
   float* d = c.d.as<float>();
-  switch (c.spec.op) {
+  switch (c.work.op) {
     case Op::Mva: tarnMul_mva_32f(m, row, 4, n, n, v, row, 4, n, d, row, 4, c.count); break;
     case Op::Mava: tarnMul_mava_32f(m, obj, row, 4, n, n, v, row, 4, n, d, row, 4, c.count); break;
     case Op::GaxpyMva:
@@ -135,12 +135,12 @@ void plainLoop(const Ctx& c) {
   const float* s3 = c.s.as<const float>();
   float* d = c.d.as<float>();
   const int32_t count = c.count;
-  if (c.spec.op == Op::Mac) {
+  if (c.work.op == Op::Mac) {
     for (int32_t o = 0; o < count; ++o)
       for (int e = 0; e < N * N; ++e) d[size_t(o) * N * N + e] = m[size_t(o) * N * N + e] * c.one;
     return;
   }
-  const bool arr = c.spec.op == Op::Mava, gx = c.spec.op == Op::GaxpyMva;
+  const bool arr = c.work.op == Op::Mava, gx = c.work.op == Op::GaxpyMva;
   for (int32_t o = 0; o < count; ++o) {
     const float* a = m + (arr ? size_t(o) * N * N : 0);
     for (int i = 0; i < N; ++i) {
@@ -156,7 +156,7 @@ void eigenLoop(const Ctx& c) {
   using M = Eigen::Matrix<float, N, N, Eigen::RowMajor>;
   using V = Eigen::Matrix<float, N, 1>;
   const int32_t count = c.count;
-  if (c.spec.op == Op::Mac) {
+  if (c.work.op == Op::Mac) {
     for (int32_t o = 0; o < count; ++o)
       Eigen::Map<M>(c.d.as<float>() + size_t(o) * N * N) = Eigen::Map<const M>(c.m.as<const float>() + size_t(o) * N * N) * c.one;
     return;
@@ -165,8 +165,8 @@ void eigenLoop(const Ctx& c) {
   for (int32_t o = 0; o < count; ++o) {
     const Eigen::Map<const V> x(c.v.as<const float>() + size_t(o) * N);
     Eigen::Map<V> y(c.d.as<float>() + size_t(o) * N);
-    if (c.spec.op == Op::Mava) y.noalias() = Eigen::Map<const M>(c.m.as<const float>() + size_t(o) * N * N) * x;
-    else if (c.spec.op == Op::GaxpyMva) y.noalias() = one * x + Eigen::Map<const V>(c.s.as<const float>() + size_t(o) * N);
+    if (c.work.op == Op::Mava) y.noalias() = Eigen::Map<const M>(c.m.as<const float>() + size_t(o) * N * N) * x;
+    else if (c.work.op == Op::GaxpyMva) y.noalias() = one * x + Eigen::Map<const V>(c.s.as<const float>() + size_t(o) * N);
     else y.noalias() = one * x;
   }
 }
@@ -181,16 +181,16 @@ void glmLoop(const Ctx& c) {
   const V* v = reinterpret_cast<const V*>(c.v.as<const float>());
   const V* s3 = reinterpret_cast<const V*>(c.s.as<const float>());
   const int32_t count = c.count;
-  if (c.spec.op == Op::Mac) {
+  if (c.work.op == Op::Mac) {
     M* d = reinterpret_cast<M*>(c.d.as<float>());
     for (int32_t o = 0; o < count; ++o) d[o] = m[o] * c.one;
     return;
   }
   V* d = reinterpret_cast<V*>(c.d.as<float>());
   const M one = m[0];
-  if (c.spec.op == Op::Mava)
+  if (c.work.op == Op::Mava)
     for (int32_t o = 0; o < count; ++o) d[o] = v[o] * m[o];
-  else if (c.spec.op == Op::GaxpyMva)
+  else if (c.work.op == Op::GaxpyMva)
     for (int32_t o = 0; o < count; ++o) d[o] = v[o] * one + s3[o];
   else
     for (int32_t o = 0; o < count; ++o) d[o] = v[o] * one;
@@ -226,16 +226,16 @@ void memRef(Ctx& c, int threads) {
 // ---- Registration --------------------------------------------------------------------------
 
 struct Cache {
-  const Spec* spec = nullptr;
+  const Workload* work = nullptr;
   int32_t count = 0;
   std::unique_ptr<Ctx> ctx;
 } gCache;
 
-Ctx& batch(const Spec& s, int32_t count) {
-  if (gCache.spec != &s || gCache.count != count) {
+Ctx& batch(const Workload& s, int32_t count) {
+  if (gCache.work != &s || gCache.count != count) {
     gCache.ctx.reset();
     gCache.ctx = makeCtx(s, count);
-    gCache.spec = &s;
+    gCache.work = &s;
     gCache.count = count;
   }
   return *gCache.ctx;
@@ -260,7 +260,7 @@ bool verify(Ctx& c, const std::string& who, void (*call)(const Ctx&)) {
   return true;
 }
 
-const Spec kSpecs[] = {
+const Workload kWorkloads[] = {
     {"tarnMul_mva_32f", Op::Mva, 4},       {"tarnMul_mva_32f", Op::Mva, 3},      {"tarnMul_mava_32f", Op::Mava, 4},
     {"tarnGaxpy_mva_32f", Op::GaxpyMva, 4}, {"tarnMul_mac_32f", Op::Mac, 3},
 };
@@ -268,7 +268,7 @@ constexpr int32_t kSizes[] = {2000, 100000, 1000000};
 
 struct Registrar {
   Registrar() {
-    for (const Spec& s : kSpecs) {
+    for (const Workload& s : kWorkloads) {
       const std::string wl = std::string(s.exportName) + "/" + std::to_string(s.n) + "x" + std::to_string(s.n);
       using Fn = void (*)(const Ctx&);
       const std::pair<const char*, Fn> peers[] = {

@@ -109,14 +109,14 @@ int fixed(size_t index, const py::tuple& shape, const py::tuple& args) {
       f.value = int32_t(v);
       continue;
     }
-    const py::tuple spec = args[i].cast<py::tuple>();
-    f.base = reinterpret_cast<char*>(spec[0].cast<uintptr_t>());
-    f.batch = strides(spec[1]);
+    const py::tuple desc = args[i].cast<py::tuple>();
+    f.base = reinterpret_cast<char*>(desc[0].cast<uintptr_t>());
+    f.batch = strides(desc[1]);
     if (f.batch.size() != n.size()) throw py::value_error(std::string(t.name) + ": batch strides do not match the shape");
     if (f.kind == 'f') continue;
-    f.elem = strides(spec[2]);
-    for (auto x : spec[3]) f.dims.push_back(x.cast<size_t>());
-    f.out = spec[4].cast<bool>();
+    f.elem = strides(desc[2]);
+    for (auto x : desc[3]) f.dims.push_back(x.cast<size_t>());
+    f.out = desc[4].cast<bool>();
     if (f.elem.size() != f.dims.size()) throw py::value_error(std::string(t.name) + ": element strides do not match");
     ptrdiff_t want = 4;  // C order, 4-byte elements
     for (size_t k = f.dims.size(); k-- > 0;) {
