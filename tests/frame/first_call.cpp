@@ -52,7 +52,7 @@ tarnStatus callOnce(const std::string& name) {
       for (int i = 0; i < 8; ++i) a.floats[i] = reinterpret_cast<float*>(arena.data + size_t(i) * kRegion);
       a.ints = arena.ints;
       a.value = 0.75f;
-      a.stride = 16;
+      a.strides[0] = a.strides[1] = 16;
       a.count = 2;
       return f.call(a);
     }

@@ -58,7 +58,7 @@ TEST(FpEnv, NoMemberChangesTheCallersControl) {
       for (int i = 0; i < 64; ++i) ints[i] = i % 3;
       a.ints = ints;
       a.value = 0.75f;
-      a.stride = 16;
+      a.strides[0] = a.strides[1] = 16;
       a.count = 2;
       Control c(mode);
       f.call(a);

@@ -49,16 +49,21 @@ struct MemberFn {
 const std::vector<std::string>& fixedMembers();
 
 // Arguments for a call of any fixed-size member: its float pointers take floats[0], floats[1]
-// ... in order, an int32_t pointer takes ints, every float takes value.
+// ... in order, an int32_t pointer takes ints, every float takes value, an array form's strides
+// take strides[0] (its source) and strides[1] (its result).
 struct FixedArgs {
   float* floats[8] = {};
   int32_t* ints = nullptr;
   float value = 0;
-  int32_t stride = 0, count = 0;
+  int32_t strides[2] = {}, count = 0;
 };
 struct FixedFn {
   const char* name;
   tarnStatus (*call)(const FixedArgs&);
+  int8_t len[8];  // floats of one object behind each float pointer (1: a single float)
+  uint8_t out;    // bit i: the member writes through floats[i]
+  uint8_t array;  // bit i: floats[i] is an array of `count` objects, its stride apart
+  bool ints;      // the member writes an int32_t through ints
 };
 const std::vector<FixedFn>& fixedCalls();
 
