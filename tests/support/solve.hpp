@@ -44,6 +44,7 @@ struct SolveCall {
   bool specials = false;
   int order = 0, width = 0, height = 0;
   std::function<void(CallFixture&, std::mt19937&)> fill;  // none: fillSources
+  std::function<std::string(const CallFixture&)> inspect;  // more checks of the results, typed by the test
 };
 
 // Empty when the member matches the model, else what differed.
