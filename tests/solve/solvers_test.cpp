@@ -101,75 +101,56 @@ TEST(Solvers, FactorThenSolve) {
 // member's documentation. At order 1 (a 1 by 1 QR) E is count for a decomposition and Det,
 // 2*count for QRDecomp, 1 + 2*count for mva and 3*count for mava; Invert, whose order 1 never
 // leaves the entry, runs at order 2, where E is 4*count.
+// Per family and pattern: contiguous and general path of 32f in LayoutS, L and P, then of 64f.
 struct Limit {
-  const char* name;
-  int32_t contiguous, general;
+  const char* member;
+  int32_t of[6][2];
 };
 const Limit kLimits[] = {
-    {"tarnLUDecomp_ma_32f", 20001, 20001},            {"tarnLUDecomp_ma_32f_L", 40001, 20001},
-    {"tarnLUDecomp_ma_32f_P", 20001, 20001},          {"tarnLUDecomp_ma_64f", 20001, 20001},
-    {"tarnLUDecomp_ma_64f_L", 20001, 20001},          {"tarnLUDecomp_ma_64f_P", 20001, 20001},
-    {"tarnLUBackSubst_mva_32f", 1701, 1701},          {"tarnLUBackSubst_mva_32f_L", 1701, 1701},
-    {"tarnLUBackSubst_mva_32f_P", 1701, 1701},        {"tarnLUBackSubst_mva_64f", 1701, 1701},
-    {"tarnLUBackSubst_mva_64f_L", 1701, 1701},        {"tarnLUBackSubst_mva_64f_P", 1701, 1701},
-    {"tarnLUBackSubst_mava_32f", 1701, 1701},         {"tarnLUBackSubst_mava_32f_L", 1701, 1701},
-    {"tarnLUBackSubst_mava_32f_P", 1701, 1701},       {"tarnLUBackSubst_mava_64f", 1701, 1701},
-    {"tarnLUBackSubst_mava_64f_L", 1701, 1701},       {"tarnLUBackSubst_mava_64f_P", 1701, 1701},
-    {"tarnCholeskyDecomp_ma_32f", 7501, 7501},        {"tarnCholeskyDecomp_ma_32f_L", 2001, 2001},
-    {"tarnCholeskyDecomp_ma_32f_P", 2001, 2001},      {"tarnCholeskyDecomp_ma_64f", 2001, 2001},
-    {"tarnCholeskyDecomp_ma_64f_L", 721, 2001},       {"tarnCholeskyDecomp_ma_64f_P", 2001, 2001},
-    {"tarnCholeskyBackSubst_mva_32f", 1201, 1201},    {"tarnCholeskyBackSubst_mva_32f_L", 721, 721},
-    {"tarnCholeskyBackSubst_mva_32f_P", 721, 721},    {"tarnCholeskyBackSubst_mva_64f", 721, 721},
-    {"tarnCholeskyBackSubst_mva_64f_L", 721, 721},    {"tarnCholeskyBackSubst_mva_64f_P", 721, 721},
-    {"tarnCholeskyBackSubst_mava_32f", 2051, 1701},   {"tarnCholeskyBackSubst_mava_32f_L", 1701, 1701},
-    {"tarnCholeskyBackSubst_mava_32f_P", 1701, 1701}, {"tarnCholeskyBackSubst_mava_64f", 1701, 1701},
-    {"tarnCholeskyBackSubst_mava_64f_L", 1701, 1701}, {"tarnCholeskyBackSubst_mava_64f_P", 2051, 2051},
-    {"tarnQRDecomp_ma_32f", 2801, 2801},              {"tarnQRDecomp_ma_32f_L", 1801, 1801},
-    {"tarnQRDecomp_ma_32f_P", 1801, 1801},            {"tarnQRDecomp_ma_64f", 2801, 2801},
-    {"tarnQRDecomp_ma_64f_L", 1801, 1801},            {"tarnQRDecomp_ma_64f_P", 1801, 1801},
-    {"tarnQRBackSubst_mva_32f", 2801, 2801},          {"tarnQRBackSubst_mva_32f_L", 1801, 1801},
-    {"tarnQRBackSubst_mva_32f_P", 1801, 1801},        {"tarnQRBackSubst_mva_64f", 2801, 2801},
-    {"tarnQRBackSubst_mva_64f_L", 1801, 1801},        {"tarnQRBackSubst_mva_64f_P", 1801, 1801},
-    {"tarnQRBackSubst_mava_32f", 2801, 2801},         {"tarnQRBackSubst_mava_32f_L", 1801, 1801},
-    {"tarnQRBackSubst_mava_32f_P", 1801, 1801},       {"tarnQRBackSubst_mava_64f", 2801, 2801},
-    {"tarnQRBackSubst_mava_64f_L", 1801, 1801},       {"tarnQRBackSubst_mava_64f_P", 1801, 1801},
-    {"tarnDet_ma_32f", 20001, 20001},                 {"tarnDet_ma_32f_L", 40001, 20001},
-    {"tarnDet_ma_32f_P", 20001, 20001},               {"tarnDet_ma_64f", 20001, 20001},
-    {"tarnDet_ma_64f_L", 20001, 20001},               {"tarnDet_ma_64f_P", 20001, 20001},
-    {"tarnInvert_ma_32f", 20001, 20001},              {"tarnInvert_ma_32f_L", 40001, 20001},
-    {"tarnInvert_ma_32f_P", 20001, 20001},            {"tarnInvert_ma_64f", 20001, 20001},
-    {"tarnInvert_ma_64f_L", 20001, 20001},            {"tarnInvert_ma_64f_P", 20001, 20001},
+    {"LUDecomp_ma", {{20001, 20001}, {40001, 20001}, {20001, 20001}, {20001, 20001}, {20001, 20001}, {20001, 20001}}},
+    {"LUBackSubst_mva", {{1701, 1701}, {1701, 1701}, {1701, 1701}, {1701, 1701}, {1701, 1701}, {1701, 1701}}},
+    {"LUBackSubst_mava", {{1701, 1701}, {1701, 1701}, {1701, 1701}, {1701, 1701}, {1701, 1701}, {1701, 1701}}},
+    {"CholeskyDecomp_ma", {{7501, 7501}, {2001, 2001}, {2001, 2001}, {2001, 2001}, {721, 2001}, {2001, 2001}}},
+    {"CholeskyBackSubst_mva", {{1201, 1201}, {721, 721}, {721, 721}, {721, 721}, {721, 721}, {721, 721}}},
+    {"CholeskyBackSubst_mava", {{2051, 1701}, {1701, 1701}, {1701, 1701}, {1701, 1701}, {1701, 1701}, {2051, 2051}}},
+    {"QRDecomp_ma", {{2801, 2801}, {1801, 1801}, {1801, 1801}, {2801, 2801}, {1801, 1801}, {1801, 1801}}},
+    {"QRBackSubst_mva", {{2801, 2801}, {1801, 1801}, {1801, 1801}, {2801, 2801}, {1801, 1801}, {1801, 1801}}},
+    {"QRBackSubst_mava", {{2801, 2801}, {1801, 1801}, {1801, 1801}, {2801, 2801}, {1801, 1801}, {1801, 1801}}},
+    {"Det_ma", {{20001, 20001}, {40001, 20001}, {20001, 20001}, {20001, 20001}, {20001, 20001}, {20001, 20001}}},
+    {"Invert_ma", {{20001, 20001}, {40001, 20001}, {20001, 20001}, {20001, 20001}, {20001, 20001}, {20001, 20001}}},
 };
 
 TEST(Solvers, RegionFromTheLimitOn) {
-  for (const Limit& l : kLimits) {
-    const MemberFn& m = member(l.name);
-    const Name nm = parseName(l.name);
-    const int n = nm.family == "Invert" ? 2 : 1;
-    auto estimate = [&](int32_t c) {
-      if (nm.pattern != "ma") return nm.pattern == "mva" ? 1 + 2 * c : 3 * c;
-      return nm.family == "Invert" ? 4 * c : nm.family == "QRDecomp" ? 2 * c : c;
-    };
-    for (bool contig : {true, false}) {
-      if (nm.layout == 'P' && !contig) continue;
-      const int32_t limit = contig ? l.contiguous : l.general;
-      int32_t count = 1;
-      while (estimate(count) < limit) ++count;
-      for (int32_t c : {count - 1, count}) {
-        CallFixture fx(m, c, style(contig ? "packed" : "strided"), [&](int b) { return orderExtent(m, b, n); });
-        fx.args.order = fx.args.width = fx.args.height = n;
-        for (int b = 0; b < m.nop; ++b)  // identities, ones and pivots in order: nothing fails
-          for (int k = 0; k < (fx.isArray(b) ? c : 1) && !m.blk[b].out; ++k)
-            for (int i = 0; i < n; ++i)
-              if (m.blk[b].kind == 0) fx.block(b).setBits(0, 0, k * n + i, uint32_t(i));
-              else
-                for (int j = 0; j < n; ++j)
-                  fx.block(b).set(k, m.blk[b].kind == 'm' ? i : 0, j, m.blk[b].kind != 'm' || i == j ? 1.0 : 0.0);
-        EXPECT_EQ(regionsOpenedBy([&] { EXPECT_EQ(fx.run(2), 0) << l.name; }), estimate(c) >= limit)
-            << l.name << (contig ? " contiguous" : " general") << " E " << estimate(c);
+  for (const Limit& l : kLimits)
+    for (int t = 0; t < 6; ++t) {
+      const std::string name = std::string("tarn") + l.member + (t < 3 ? "_32f" : "_64f") + (t % 3 == 1 ? "_L" : "");
+      const MemberFn& m = member(t % 3 == 2 ? name + "_P" : name);
+      const Name nm = parseName(m.name);
+      const int n = nm.family == "Invert" ? 2 : 1;
+      auto estimate = [&](int32_t c) {
+        if (nm.pattern != "ma") return nm.pattern == "mva" ? 1 + 2 * c : 3 * c;
+        return nm.family == "Invert" ? 4 * c : nm.family == "QRDecomp" ? 2 * c : c;
+      };
+      for (bool contig : {true, false}) {
+        if (nm.layout == 'P' && !contig) continue;
+        const int32_t limit = l.of[t][contig ? 0 : 1];
+        int32_t count = 1;
+        while (estimate(count) < limit) ++count;
+        for (int32_t c : {count - 1, count}) {
+          CallFixture fx(m, c, style(contig ? "packed" : "strided"), [&](int b) { return orderExtent(m, b, n); });
+          fx.args.order = fx.args.width = fx.args.height = n;
+          for (int b = 0; b < m.nop; ++b)  // identities, ones and pivots in order: nothing fails
+            for (int k = 0; k < (fx.isArray(b) ? c : 1) && !m.blk[b].out; ++k)
+              for (int i = 0; i < n; ++i)
+                if (m.blk[b].kind == 0) fx.block(b).setBits(0, 0, k * n + i, uint32_t(i));
+                else
+                  for (int j = 0; j < n; ++j)
+                    fx.block(b).set(k, m.blk[b].kind == 'm' ? i : 0, j, m.blk[b].kind != 'm' || i == j ? 1.0 : 0.0);
+          EXPECT_EQ(regionsOpenedBy([&] { EXPECT_EQ(fx.run(2), 0) << m.name; }), estimate(c) >= limit)
+              << m.name << (contig ? " contiguous" : " general") << " E " << estimate(c);
+        }
       }
     }
-  }
 }
 
 }  // namespace
