@@ -138,7 +138,8 @@ TEST(CholeskyBackSubst, EveryMemberOrderAndPlacement) {
     for (int n = 1; n <= 8; ++n)
       for (const Style& st : styles())
         for (bool inPlace : {false, true}) EXPECT_EQ(run(n, st, m->hasCount ? 11 : 1, 1, inPlace), "");
-    for (int threads = 2; threads <= 4 && m->hasCount; ++threads) EXPECT_EQ(run(4, style("packed"), 700, threads, false), "");
+    for (int threads = 2; threads <= 4 && m->hasCount; ++threads)
+      EXPECT_EQ(run(4, style("packed"), 700, threads, false), "");
   }
 }
 
@@ -151,7 +152,8 @@ TEST(CholeskyBackSubst, OverlappingVectorsOnTheirSource) {
   for (auto& x : f) x = randomValue(rng, 8);
   for (auto& x : v) x = randomValue(rng, 8);
   std::vector<double> model = v;
-  for (int k = 0; k < count; ++k) ref::cholSolve<double>(&f[size_t(k * n * n)], &model[size_t(k)], &model[size_t(k)], n);
+  for (int k = 0; k < count; ++k)
+    ref::cholSolve<double>(&f[size_t(k * n * n)], &model[size_t(k)], &model[size_t(k)], n);
   ASSERT_EQ(tarnCholeskyBackSubst_mava_64f(f.data(), n * n * 8, n * 8, 8, v.data(), 8, 8, v.data(), 8, 8, n, count), 0);
   for (size_t i = 0; i < v.size(); ++i) EXPECT_TRUE(sameValue(bitsOf(v[i], 8), bitsOf(model[i], 8), 8)) << i;
 }

@@ -158,7 +158,8 @@ TEST(LUBackSubst, EveryMemberOrderAndPlacement) {
     for (int n = 1; n <= 8; ++n)
       for (const Style& st : styles())
         for (bool inPlace : {false, true}) EXPECT_EQ(run(n, st, m->hasCount ? 11 : 1, 1, inPlace), "");
-    for (int threads = 2; threads <= 4 && m->hasCount; ++threads) EXPECT_EQ(run(4, style("packed"), 700, threads, false), "");
+    for (int threads = 2; threads <= 4 && m->hasCount; ++threads)
+      EXPECT_EQ(run(4, style("packed"), 700, threads, false), "");
   }
 }
 

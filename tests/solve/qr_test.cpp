@@ -85,7 +85,8 @@ TEST(QR, ColumnNormLimit) {
       {{1, 1}, {0, 0}, {0, 0}, 0},  // no reflector at all
       {{2, 2}, {1, 0}, {1, 0}, 0},  // the last column, zero below the diagonal, is not tested
   };
-  for (const char* name : {"tarnQRDecomp_m_32f", "tarnQRDecomp_m_64f_P", "tarnQRDecomp_ma_32f_L", "tarnQRDecomp_ma_64f"})
+  for (const char* name :
+       {"tarnQRDecomp_m_32f", "tarnQRDecomp_m_64f_P", "tarnQRDecomp_ma_32f_L", "tarnQRDecomp_ma_64f"})
     for (const Case& c : cases) {
       const bool f64 = parseName(name).esize == 8;
       SolveCall r;

@@ -123,8 +123,8 @@ const Limit kLimits[] = {
 TEST(Solvers, RegionFromTheLimitOn) {
   for (const Limit& l : kLimits)
     for (int t = 0; t < 6; ++t) {
-      const std::string name = std::string("tarn") + l.member + (t < 3 ? "_32f" : "_64f") + (t % 3 == 1 ? "_L" : "");
-      const MemberFn& m = member(t % 3 == 2 ? name + "_P" : name);
+      const char* layouts[] = {"", "_L", "_P"};
+      const MemberFn& m = member(std::string("tarn") + l.member + (t < 3 ? "_32f" : "_64f") + layouts[t % 3]);
       const Name nm = parseName(m.name);
       const int n = nm.family == "Invert" ? 2 : 1;
       auto estimate = [&](int32_t c) {

@@ -226,7 +226,8 @@ std::string runSolve(const SolveCall& call, const SolveModel<float>& m32, const 
     recording = false;
     scratch.swap(taken);
   }
-  std::string why = fx.esize() == 4 ? check<float>(call, fx, got, m32, scratch) : check<double>(call, fx, got, m64, scratch);
+  std::string why =
+      fx.esize() == 4 ? check<float>(call, fx, got, m32, scratch) : check<double>(call, fx, got, m64, scratch);
   if (call.inspect) why += call.inspect(fx);
   if (!why.empty())
     why = std::string(m.name) + " order " + std::to_string(call.order) + " " + std::to_string(call.height) + "x" +
