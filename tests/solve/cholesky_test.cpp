@@ -60,26 +60,22 @@ std::vector<double> cholObject(Kind kind, int n, int esize, std::mt19937& rng) {
   return a;
 }
 
-std::function<void(CallFixture&, std::mt19937&)> cholFill(int n, std::vector<int> fail = {}) {
-  return [n, fail](CallFixture& fx, std::mt19937& rng) {
-    std::uniform_int_distribution<int> kind(0, int(Kind::Last));
-    std::uniform_int_distribution<int> bad{int(Kind::Cancels), int(Kind::Negative)};
-    for (int k = 0; k < (fx.isArray(0) ? fx.count() : 1); ++k) {
-      const bool f = std::find(fail.begin(), fail.end(), k) != fail.end();
-      const auto a = cholObject(Kind(f ? bad(rng) : kind(rng)), n, fx.esize(), rng);
-      for (int r = 0; r < n; ++r)
-        for (int c = 0; c < n; ++c) fx.block(0).set(k, r, c, a[size_t(r * n + c)]);
-    }
-    fx.block(1).fillRandom(rng, false);  // dst: the upper triangle must keep these
-  };
-}
-
+// Lower triangles of random kinds, failing ones for the objects in `fail`; dst's upper triangle
+// must keep what it holds.
 std::string runChol(const MemberFn& m, int n, int count, const Style& st, int threads, bool parallel, bool inPlace,
                     const std::vector<int>& fail, unsigned seed) {
   SolveCall c{&m, [&](int b) { return orderExtent(m, b, n); }, count, &st, threads, parallel, inPlace ? 0 : -1};
   c.order = n;
   c.seed = seed;
-  c.fill = cholFill(n, fail);
+  c.fill = [&](CallFixture& fx, std::mt19937& rng) {
+    std::uniform_int_distribution<int> kind(0, int(Kind::Last)), bad{int(Kind::Cancels), int(Kind::Negative)};
+    for (int k = 0; k < (fx.isArray(0) ? fx.count() : 1); ++k) {
+      const bool f = std::find(fail.begin(), fail.end(), k) != fail.end();
+      const auto a = cholObject(Kind(f ? bad(rng) : kind(rng)), n, fx.esize(), rng);
+      for (int i = 0; i < n * n; ++i) fx.block(0).set(k, i / n, i % n, a[size_t(i)]);
+    }
+    fx.block(1).fillRandom(rng, false);
+  };
   return runSolve(c, [n]<class T>(Images<T>& im) { return ref::cholDecomp<T>(im.e[0], im.e[1], n); });
 }
 

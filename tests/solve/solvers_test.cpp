@@ -54,8 +54,8 @@ void factorThenSolve(const std::string& family, int h, int w) {
   ASSERT_EQ(call("Decomp_ma", {A, F}), 0);
   ASSERT_EQ(call("BackSubst_mava", {F, B, X}), 0);
   ASSERT_EQ(call("BackSubst_mva", {F0, B, Y}), 0);
-  // Backward error of each solution: |A x - b| against |A| |x| + |b| row by row; for a tall A,
-  // A^T (A x - b) against |A|^T (|A| |x| + |b|).
+  // Backward error of each solution through the normal equations: A^T (A x - b) against
+  // |A|^T (|A| |x| + |b|), column by column.
   const double tol = 16.0 * h * double(std::numeric_limits<T>::epsilon());
   for (int k = 0; k < count; ++k)
     for (bool shared : {false, true}) {
@@ -70,14 +70,11 @@ void factorThenSolve(const std::string& family, int h, int w) {
           scale[size_t(r)] += std::fabs(double(sys[r * w + c]) * double(sol[c]));
         }
       }
-      for (int j = 0; j < (h == w ? h : w); ++j) {
-        double s = res[size_t(j)], bound = scale[size_t(j)];
-        if (h != w) {
-          s = bound = 0;
-          for (int r = 0; r < h; ++r) {
-            s += double(sys[r * w + j]) * res[size_t(r)];
-            bound += std::fabs(double(sys[r * w + j])) * scale[size_t(r)];
-          }
+      for (int j = 0; j < w; ++j) {
+        double s = 0, bound = 0;
+        for (int r = 0; r < h; ++r) {
+          s += double(sys[r * w + j]) * res[size_t(r)];
+          bound += std::fabs(double(sys[r * w + j])) * scale[size_t(r)];
         }
         EXPECT_LE(std::fabs(s), tol * bound) << family << " " << h << "x" << w << " system " << k
                                              << (shared ? " mva" : " mava") << " esize " << e;
