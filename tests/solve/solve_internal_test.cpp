@@ -1,6 +1,6 @@
 // White box: the Cholesky bodies that run four float objects in the lanes of one register take
-// each lane's reciprocal square root estimate from rsqrtss, never from the packed instruction,
-// which differs from it on some processors. Floats of both exponent parities, the smallest and
+// each lane's reciprocal square root estimate from rsqrtss, as one object alone does, so a lane
+// keeps its object's bits on any processor. Floats of both exponent parities, the smallest and
 // largest exponents and denormals, with every pattern of the top 16 mantissa bits, in every lane.
 #include <gtest/gtest.h>
 
