@@ -10,6 +10,7 @@
 
 #include <pmmintrin.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <utility>
@@ -24,50 +25,39 @@ template <class T> constexpr T kLuLoop = sizeof(T) == 4 ? T(0x1p-23) : T(0x1p-52
 
 inline bool dedicated(int n) { return n >= 3 && n <= 6; }
 
-// src and dst may be the same image.
+// src and dst may be the same image. The expanded orders work on a copy and store each row of the
+// factor once it is final.
 template <class T>
 tarnStatus luDecomp(const T* src, T* dst, int32_t* p, int n) {
   const size_t N = size_t(n);
-  auto at = [N](auto* m, int r, int c) -> auto& { return m[size_t(r) * N + size_t(c)]; };
-  if (dedicated(n)) {
-    std::vector<T> a(src, src + N * N);
-    for (int i = 0; i < n; ++i) p[i] = i;
-    for (int k = 0; k + 1 < n; ++k) {
-      int best = k;
-      T mag = std::fabs(at(a.data(), p[k], k));
-      for (int i = k + 1; i < n; ++i)
-        if (std::fabs(at(a.data(), p[i], k)) > mag) mag = std::fabs(at(a.data(), p[best = i], k));
-      std::swap(p[k], p[best]);  // exchange first,
-      if (mag < kLuExpanded<T>) return tarnStatusSingular;  // then the strict test
-      for (int i = k + 1; i < n; ++i) {
-        T& l = at(a.data(), p[i], k);
-        if (k + 2 < n) l = l * (T(1) / at(a.data(), p[k], k));
-        else l = l / at(a.data(), p[k], k);  // the last stage divides
-      }
-      for (int i = k + 1; i < n; ++i)
-        for (int j = k + 1; j < n; ++j)
-          at(a.data(), p[i], j) = at(a.data(), p[i], j) - at(a.data(), p[i], k) * at(a.data(), p[k], j);
-      for (int c = 0; c < n; ++c) at(dst, p[k], c) = at(a.data(), p[k], c);
-    }
-    if (std::fabs(at(a.data(), p[n - 1], n - 1)) < kLuExpanded<T>) return tarnStatusSingular;
-    for (int c = 0; c < n; ++c) at(dst, p[n - 1], c) = at(a.data(), p[n - 1], c);
-    return tarnStatusOk;
-  }
+  const bool expanded = dedicated(n);
+  std::vector<T> work(src, src + N * N);
+  T* a = expanded ? work.data() : dst;
+  if (!expanded) std::copy(work.begin(), work.end(), dst);
+  auto at = [&](int r, int c) -> T& { return a[size_t(r) * N + size_t(c)]; };
+  auto singular = [&](T mag) { return expanded ? mag < kLuExpanded<T> : mag <= kLuLoop<T>; };
+  auto store = [&](int r) {
+    for (int c = 0; c < n && expanded; ++c) dst[size_t(r) * N + size_t(c)] = at(r, c);
+  };
   for (int i = 0; i < n; ++i) p[i] = i;
-  for (size_t i = 0; i < N * N; ++i) dst[i] = src[i];
   for (int k = 0; k + 1 < n; ++k) {
     int best = k;
-    T mag = std::fabs(at(dst, p[k], k));
+    T mag = std::fabs(at(p[k], k));
     for (int i = k + 1; i < n; ++i)
-      if (std::fabs(at(dst, p[i], k)) > mag) mag = std::fabs(at(dst, p[best = i], k));
-    if (mag <= kLuLoop<T>) return tarnStatusSingular;  // test first, inclusively,
-    std::swap(p[k], p[best]);                           // then the exchange
-    const T r = T(1) / at(dst, p[k], k);
-    for (int i = k + 1; i < n; ++i) at(dst, p[i], k) = at(dst, p[i], k) * r;
+      if (std::fabs(at(p[i], k)) > mag) mag = std::fabs(at(p[best = i], k));
+    if (expanded) std::swap(p[k], p[best]);  // the expanded orders exchange before the test,
+    if (singular(mag)) return tarnStatusSingular;
+    if (!expanded) std::swap(p[k], p[best]);  // the loop after it
+    const T r = T(1) / at(p[k], k);
+    for (int i = k + 1; i < n; ++i)  // the last expanded stage divides
+      at(p[i], k) = expanded && k + 2 == n ? at(p[i], k) / at(p[k], k) : at(p[i], k) * r;
     for (int i = k + 1; i < n; ++i)
-      for (int j = k + 1; j < n; ++j) at(dst, p[i], j) = at(dst, p[i], j) - at(dst, p[i], k) * at(dst, p[k], j);
+      for (int j = k + 1; j < n; ++j) at(p[i], j) = at(p[i], j) - at(p[i], k) * at(p[k], j);
+    store(p[k]);
   }
-  return std::fabs(at(dst, p[n - 1], n - 1)) <= kLuLoop<T> ? tarnStatusSingular : tarnStatusOk;
+  if (singular(std::fabs(at(p[n - 1], n - 1)))) return tarnStatusSingular;
+  store(p[n - 1]);
+  return tarnStatusOk;
 }
 
 // x from the packed factor f and pivots p; b and x may be the same image. `reciprocals`: the

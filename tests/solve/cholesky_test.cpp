@@ -1,8 +1,7 @@
-// CholeskyDecomp and CholeskyBackSubst against the plain models of tests/ref/solve_ref.hpp:
+// CholeskyDecomp and CholeskyBackSubst against the plain models of tests/ref/factor_ref.hpp:
 // every member, orders 1 to 8, every placement, results on their sources; pivots that cancel to
 // exactly zero or to a tiny positive value, negative and NaN pivots, upper triangles of NaNs
-// that must never be read; failing objects across thread slices; objects that overlap; the limits
-// of every member.
+// that must never be read; failing objects across thread slices; objects that overlap.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,8 +9,7 @@
 #include <vector>
 
 #include "ref/factor_ref.hpp"
-#include "regions.hpp"
-#include "factor.hpp"
+#include "solve.hpp"
 
 namespace tt {
 namespace {
@@ -62,29 +60,23 @@ std::vector<double> cholObject(Kind kind, int n, int esize, std::mt19937& rng) {
   return a;
 }
 
-SolveFill cholFill(int n, std::vector<int> fail = {}) {
-  return [n, fail](CallFixture& fx, std::mt19937& rng) {
-    std::uniform_int_distribution<int> kind(0, int(Kind::Last));
-    std::uniform_int_distribution<int> bad{int(Kind::Cancels), int(Kind::Negative)};
+// Lower triangles of random kinds, failing ones for the objects in `fail`; dst's upper triangle
+// must keep what it holds.
+std::string runChol(const MemberFn& m, int n, int count, const Style& st, int threads, bool parallel, bool inPlace,
+                    const std::vector<int>& fail, unsigned seed) {
+  SolveCall c{&m, [&](int b) { return orderExtent(m, b, n); }, count, &st, threads, parallel, inPlace ? 0 : -1};
+  c.order = n;
+  c.seed = seed;
+  c.fill = [&](CallFixture& fx, std::mt19937& rng) {
+    std::uniform_int_distribution<int> kind(0, int(Kind::Last)), bad{int(Kind::Cancels), int(Kind::Negative)};
     for (int k = 0; k < (fx.isArray(0) ? fx.count() : 1); ++k) {
       const bool f = std::find(fail.begin(), fail.end(), k) != fail.end();
       const auto a = cholObject(Kind(f ? bad(rng) : kind(rng)), n, fx.esize(), rng);
-      for (int r = 0; r < n; ++r)
-        for (int c = 0; c < n; ++c) fx.block(0).set(k, r, c, a[size_t(r * n + c)]);
+      for (int i = 0; i < n * n; ++i) fx.block(0).set(k, i / n, i % n, a[size_t(i)]);
     }
-    fx.block(1).fillRandom(rng, false);  // dst: the upper triangle must keep these
+    fx.block(1).fillRandom(rng, false);
   };
-}
-
-template <class T>
-SolveModel<T> cholModel(int n) {
-  return [n](Images<T>& im) { return ref::cholDecomp<T>(im.e[0], im.e[1], n); };
-}
-
-std::string runChol(const MemberFn& m, int n, int count, const Style& st, int threads, bool parallel, bool inPlace,
-                    const std::vector<int>& fail, unsigned seed) {
-  return runSolve({&m, n, count, &st, threads, parallel, inPlace ? 0 : -1}, cholFill(n, fail), cholModel<float>(n),
-                  cholModel<double>(n), seed);
+  return runSolve(c, [n]<class T>(Images<T>& im) { return ref::cholDecomp<T>(im.e[0], im.e[1], n); });
 }
 
 TEST(CholeskyDecomp, EveryMemberOrderAndPlacement) {
@@ -114,7 +106,7 @@ TEST(CholeskyDecomp, FailingObjectsAcrossThreadSlices) {
 }
 
 // The factor (its upper triangle NaN, never to be read), b and x.
-SolveFill backFill(int n) {
+std::function<void(CallFixture&, std::mt19937&)> backFill(int n) {
   return [n](CallFixture& fx, std::mt19937& rng) {
     fx.block(0).fillRandom(rng, false);
     for (int k = 0; k < (fx.isArray(0) ? fx.count() : 1); ++k)
@@ -125,65 +117,26 @@ SolveFill backFill(int n) {
   };
 }
 
-template <class T>
-SolveModel<T> backModel(int n) {
-  return [n](Images<T>& im) {
-    ref::cholSolve<T>(im.e[0], im.e[1], im.e[2], n);
-    return tarnStatusOk;
-  };
-}
-
+// Past the limit on every thread count too.
 TEST(CholeskyBackSubst, EveryMemberOrderAndPlacement) {
   unsigned seed = 100;
-  for (const MemberFn* m : membersOf("CholeskyBackSubst"))
+  for (const MemberFn* m : membersOf("CholeskyBackSubst")) {
+    auto run = [&](int n, const Style& st, int count, int threads, bool inPlace) {
+      SolveCall c{m, [&](int b) { return orderExtent(*m, b, n); }, count, &st, threads, threads > 1, inPlace ? 1 : -1};
+      c.order = n;
+      c.seed = seed++;
+      c.fill = backFill(n);
+      return runSolve(c, [n]<class T>(Images<T>& im) -> tarnStatus {
+        ref::cholSolve<T>(im.e[0], im.e[1], im.e[2], n);
+        return tarnStatusOk;
+      });
+    };
     for (int n = 1; n <= 8; ++n)
       for (const Style& st : styles())
-        for (bool inPlace : {false, true})
-          EXPECT_EQ(runSolve({m, n, m->hasCount ? 11 : 1, &st, 1, false, inPlace ? 1 : -1}, backFill(n),
-                             backModel<float>(n), backModel<double>(n), seed++),
-                    "");
-}
-
-// The limits, typed from the documentation of each member: the first E that opens a region on
-// the contiguous and the general path. At order 1, E is count (decomposition), 1 + 2*count
-// (mva) and 3*count (mava); 2051 lies between two values of 3*count.
-struct Limit {
-  const char* name;
-  int32_t contiguous, general;
-};
-const Limit kLimits[] = {
-    {"tarnCholeskyDecomp_ma_32f", 7501, 7501},      {"tarnCholeskyDecomp_ma_32f_L", 2001, 2001},
-    {"tarnCholeskyDecomp_ma_32f_P", 2001, 2001},    {"tarnCholeskyDecomp_ma_64f", 2001, 2001},
-    {"tarnCholeskyDecomp_ma_64f_L", 721, 2001},     {"tarnCholeskyDecomp_ma_64f_P", 2001, 2001},
-    {"tarnCholeskyBackSubst_mva_32f", 1201, 1201},  {"tarnCholeskyBackSubst_mva_32f_L", 721, 721},
-    {"tarnCholeskyBackSubst_mva_32f_P", 721, 721},  {"tarnCholeskyBackSubst_mva_64f", 721, 721},
-    {"tarnCholeskyBackSubst_mva_64f_L", 721, 721},  {"tarnCholeskyBackSubst_mva_64f_P", 721, 721},
-    {"tarnCholeskyBackSubst_mava_32f", 2051, 1701}, {"tarnCholeskyBackSubst_mava_32f_L", 1701, 1701},
-    {"tarnCholeskyBackSubst_mava_32f_P", 1701, 1701}, {"tarnCholeskyBackSubst_mava_64f", 1701, 1701},
-    {"tarnCholeskyBackSubst_mava_64f_L", 1701, 1701}, {"tarnCholeskyBackSubst_mava_64f_P", 2051, 2051},
-};
-
-TEST(Cholesky, RegionFromTheLimitOn) {
-  for (const Limit& l : kLimits)
-    for (bool contig : {true, false}) {
-      const MemberFn& m = member(l.name);
-      const std::string pat = parseName(l.name).pattern;
-      const int32_t limit = contig ? l.contiguous : l.general;
-      auto estimate = [&](int32_t c) { return pat == "ma" ? c : pat == "mva" ? 1 + 2 * c : 3 * c; };
-      int32_t count = 1;
-      while (estimate(count) < limit) ++count;
-      for (int32_t c : {count - 1, count}) {
-        const bool open = estimate(c) >= limit;
-        std::string why;
-        const int regions = regionsOpenedBy([&] {
-          why = pat == "ma" ? runChol(m, 1, c, style(contig ? "packed" : "strided"), 2, open, false, {}, 3)
-                            : runSolve({&m, 1, c, &style(contig ? "packed" : "strided"), 2, open, -1}, backFill(1),
-                                       backModel<float>(1), backModel<double>(1), 3);
-        });
-        EXPECT_EQ(regions, open) << l.name << " contiguous " << contig << " count " << c;
-        EXPECT_EQ(why, "");
-      }
-    }
+        for (bool inPlace : {false, true}) EXPECT_EQ(run(n, st, m->hasCount ? 11 : 1, 1, inPlace), "");
+    for (int threads = 2; threads <= 4 && m->hasCount; ++threads)
+      EXPECT_EQ(run(4, style("packed"), 700, threads, false), "");
+  }
 }
 
 // Right-hand sides one element apart, each solved onto itself: every system must see the
@@ -195,7 +148,8 @@ TEST(CholeskyBackSubst, OverlappingVectorsOnTheirSource) {
   for (auto& x : f) x = randomValue(rng, 8);
   for (auto& x : v) x = randomValue(rng, 8);
   std::vector<double> model = v;
-  for (int k = 0; k < count; ++k) ref::cholSolve<double>(&f[size_t(k * n * n)], &model[size_t(k)], &model[size_t(k)], n);
+  for (int k = 0; k < count; ++k)
+    ref::cholSolve<double>(&f[size_t(k * n * n)], &model[size_t(k)], &model[size_t(k)], n);
   ASSERT_EQ(tarnCholeskyBackSubst_mava_64f(f.data(), n * n * 8, n * 8, 8, v.data(), 8, 8, v.data(), 8, 8, n, count), 0);
   for (size_t i = 0; i < v.size(); ++i) EXPECT_TRUE(sameValue(bitsOf(v[i], 8), bitsOf(model[i], 8), 8)) << i;
 }
