@@ -1,12 +1,13 @@
-// The element-wise families swept the same way: every member against its family's reference on
-// shapes that reach every body, in every placement; past every threshold on 1 to 4 threads with
-// identical bits; in place over the first operand.
+// The element-wise families and the products with a constant swept the same way: every member
+// against its family's reference on shapes that reach every body, in every placement, and in
+// place over the first operand; then what a model cannot show: which operand is the minuend and
+// which scalar scales which operand, how tc stores its source, the order of elements in
+// overlapping runs, and the table members that take any shift.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-#include "elementwise.hpp"
-#include "ref/scaled_ref.hpp"
+#include "ref/elementwise_ref.hpp"
 
 namespace tt {
 namespace {
@@ -18,8 +19,15 @@ struct Family {
   const char* name;
   size_t members;
   RefOp ref;
+  char letter = 0;  // only the patterns with this letter: Mul with a constant
 };
-const Family kFamilies[] = {{"Add", 92, refAdd}, {"Sub", 154, refSub}, {"Saxpy", 22, refSaxpy}, {"LComb", 16, refLComb}};
+const Family kFamilies[] = {{"Add", 92, refAdd},       {"Sub", 154, refSub},       {"Saxpy", 22, refSaxpy},
+                            {"LComb", 16, refLComb}, {"Mul", 42, refMul, 'c'}};
+std::vector<const MemberFn*> membersOf(const Family& f) {
+  auto all = tt::membersOf(f.name);
+  std::erase_if(all, [&](const MemberFn* m) { return f.letter && parseName(m->name).pattern.find(f.letter) == std::string::npos; });
+  return all;
+}
 
 bool isMatrixPattern(const std::string& p) { return p.find_first_of("mt") != std::string::npos; }
 std::vector<EwShape> shapesOf(const std::string& pattern) {
@@ -29,7 +37,7 @@ std::vector<EwShape> shapesOf(const std::string& pattern) {
 
 TEST(Elementwise, EveryMemberShapeAndPlacement) {
   for (const Family& f : kFamilies) {
-    const auto members = membersOf(f.name);
+    const auto members = membersOf(f);
     ASSERT_EQ(members.size(), f.members) << f.name;
     for (const MemberFn* m : members) {
       unsigned seed = 1;
@@ -41,37 +49,13 @@ TEST(Elementwise, EveryMemberShapeAndPlacement) {
   }
 }
 
-// Counts past every threshold of the shapes used (Sub_cva counts only 2*count); len 4 packed
-// is the contiguous float two-array case that some families run without a fixed body.
-TEST(Elementwise, ThreadCountsGiveIdenticalBits) {
-  for (const Family& f : kFamilies)
-    for (const MemberFn* m : membersOf(f.name)) {
-      const Name nm = parseName(m->name);
-      if (nm.pattern.find('a') == std::string::npos) continue;
-      const bool matrix = isMatrixPattern(nm.pattern);
-      const std::pair<EwShape, const char*> matrixCases[] = {{{3, 3}, "packed"}, {{7, 5}, "strided"}};
-      const std::pair<EwShape, const char*> vectorCases[] = {{{1, 3}, "packed"}, {{1, 4}, "packed"}, {{1, 9}, "strided"}};
-      const int count = matrix ? 2203 : nm.pattern == "cva" ? 20001 : 7001;
-      for (const auto& [s, p] : matrix ? std::vector(std::begin(matrixCases), std::end(matrixCases))
-                                       : std::vector(std::begin(vectorCases), std::end(vectorCases))) {
-        const EwRun one = runElementwise(*m, s, count, style(p), 1, 7, f.ref);
-        EXPECT_EQ(one.failure, "");
-        for (int threads : {2, 3, 4}) {
-          const EwRun many = runElementwise(*m, s, count, style(p), threads, 7, f.ref);
-          EXPECT_EQ(many.failure, "");
-          EXPECT_TRUE(many.result == one.result) << m->name << " threads " << threads;
-        }
-      }
-    }
-}
-
 // dst the same as the first operand, with the same strides: each element is read before it is
 // written and nothing else reads it, so every path gives the result.
 TEST(Elementwise, InPlaceOverTheFirstOperand) {
   // Patterns whose first operand has the result's form.
-  const char* patterns[] = {"mm", "vv", "mam", "vav", "mama", "vava", "vac"};
+  const char* patterns[] = {"mm", "vv", "mam", "vav", "mama", "vava", "vac", "mc", "mac", "vc"};
   for (const Family& f : kFamilies)
-    for (const MemberFn* m : membersOf(f.name)) {
+    for (const MemberFn* m : membersOf(f)) {
       const Name nm = parseName(m->name);
       if (std::find(std::begin(patterns), std::end(patterns), nm.pattern) == std::end(patterns)) continue;
       unsigned seed = 100;
@@ -98,6 +82,73 @@ TEST(Elementwise, OverlappingVectorRunsInAscendingOrder) {
     ASSERT_EQ(tarnSub_vv_32f(x.data(), 4, src2.data(), 4, x.data() + 1, 4, len), tarnStatusOk);
     EXPECT_EQ(x, diff) << len;
   }
+}
+
+// In tc, width 2 and height 3: src has 2 rows and 3 columns, dst 3 rows and 2 columns.
+TEST(Elementwise, TransposedSourceIsStoredWithWidthRows) {
+  const float src[2][3] = {{1, 2, 3}, {4, 5, 6}};
+  float dst[3][2] = {};
+  ASSERT_EQ(tarnMul_tc_32f(&src[0][0], 12, 4, 2.0f, &dst[0][0], 8, 4, 2, 3), tarnStatusOk);
+  const float want[3][2] = {{2, 8}, {4, 10}, {6, 12}};
+  for (int i = 0; i < 3; ++i)
+    for (int j = 0; j < 2; ++j) EXPECT_EQ(dst[i][j], want[i][j]) << i << j;
+}
+
+// Hand-checked values: the minuend is the operand named first, whatever the argument order.
+TEST(Elementwise, MinuendIsNamedFirst) {
+  const float src[3] = {0.25f, 2.0f, -1.5f};
+  float vc[3], cv[3];
+  ASSERT_EQ(tarnSub_vc_32f(src, 4, 1.0f, vc, 4, 3), tarnStatusOk);
+  ASSERT_EQ(tarnSub_cv_32f(src, 4, 1.0f, cv, 4, 3), tarnStatusOk);
+  const float wantCv[3] = {0.75f, -1.0f, 2.5f};
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(cv[i], wantCv[i]) << i;
+    EXPECT_EQ(vc[i], -wantCv[i]) << i;
+  }
+  // mma: the single matrix minus each object of the array.
+  const double one[4] = {10, 20, 30, 40}, arr[8] = {1, 2, 3, 4, 5, 6, 7, 8}, want[8] = {9, 18, 27, 36, 5, 14, 23, 32};
+  double d[8];
+  ASSERT_EQ(tarnSub_mma_64f(one, 16, 8, arr, 32, 16, 8, d, 32, 16, 8, 2, 2, 2), tarnStatusOk);
+  for (int i = 0; i < 8; ++i) EXPECT_EQ(d[i], want[i]) << i;
+  // cav: the constant of each object minus the single vector; cva: the one constant minus each.
+  const double v2[2] = {1, 2}, vals[2] = {10, 100}, va[4] = {1, 2, 3, 4};
+  double e[4];
+  ASSERT_EQ(tarnSub_cav_64f(v2, 8, vals, 8, e, 16, 8, 2, 2), tarnStatusOk);
+  EXPECT_TRUE(e[0] == 9 && e[1] == 8 && e[2] == 99 && e[3] == 98);
+  ASSERT_EQ(tarnSub_cva_64f(va, 16, 8, 5.0, e, 16, 8, 2, 2), tarnStatusOk);
+  EXPECT_TRUE(e[0] == 4 && e[3] == 1);
+}
+
+// The scalars stand right behind the operand they multiply: val scales src1, never src2.
+TEST(Elementwise, ScalarsScaleTheirOwnOperand) {
+  const float x[4] = {1, 2, 3, 4}, y[4] = {100, 200, 300, 400};
+  float d[4];
+  ASSERT_EQ(tarnSaxpy_vv_32f(x, 4, 0.5f, y, 4, d, 4, 4), tarnStatusOk);
+  EXPECT_TRUE(d[0] == 100.5f && d[3] == 402.0f);
+  ASSERT_EQ(tarnLComb_vv_32f(x, 4, 2.0f, y, 4, 0.25f, d, 4, 4), tarnStatusOk);
+  EXPECT_TRUE(d[0] == 27.0f && d[3] == 108.0f);
+  double e[6];
+  const double a[6] = {1, 2, 3, 4, 5, 6}, one[3] = {10, 20, 30};
+  ASSERT_EQ(tarnSaxpy_vva_64f(one, 8, 3.0, a, 24, 8, e, 24, 8, 3, 2), tarnStatusOk);
+  EXPECT_TRUE(e[0] == 31 && e[5] == 96);
+  ASSERT_EQ(tarnLComb_vav_64f(a, 24, 8, 2.0, one, 8, -1.0, e, 24, 8, 3, 2), tarnStatusOk);
+  EXPECT_TRUE(e[0] == -8 && e[5] == -18);
+}
+
+// The two table members without a shift check take a negative roiShift as it is and read at the
+// shifted addresses: tables point one element behind each element.
+TEST(Elementwise, TableMembersWithoutShiftCheckReadAtTheShiftedAddress) {
+  float src[4] = {0, 1, 2, 3}, vals[2] = {10, 20}, out[6] = {};
+  const float* tbl[3] = {&src[1], &src[2], &src[3]};
+  float* dtbl[3] = {&out[0], &out[1], &out[2]};
+  ASSERT_EQ(tarnSub_cav_32f_P(tbl, -4, vals, 4, dtbl, 0, 12, 3, 2), tarnStatusOk);
+  const float want[6] = {10, 9, 8, 20, 19, 18};
+  for (int i = 0; i < 6; ++i) EXPECT_EQ(out[i], want[i]) << i;
+  double s64[4] = {1, 2, 3, 100}, v64[2] = {10, 20}, d64[6] = {};
+  const double* t64[3] = {s64 + 1, s64 + 2, s64 + 3};
+  double* dt64[3] = {d64, d64 + 1, d64 + 2};
+  ASSERT_EQ(tarnAdd_vca_64f_P(t64, -8, v64, 8, dt64, 0, 24, 3, 2), tarnStatusOk);
+  EXPECT_TRUE(d64[0] == 11 && d64[3] == 21 && d64[5] == 23);  // src(0) + val[0], src(0) + val[1]
 }
 
 }  // namespace

@@ -39,14 +39,6 @@ TEST(Move, EveryMemberShapeAndPlacementMatchesTheModel) {
   EXPECT_GT(calls, 20000);
 }
 
-// Overlapping operands: elements move one after the other in ascending order, so a copy one
-// element forward repeats the first element through the row.
-TEST(Move, CopyOverlapFollowsTheElementOrder) {
-  float buf[6] = {1, 2, 3, 4, 5, 6};
-  ASSERT_EQ(tarnCopy_va_32f_SS(buf, 20, 4, buf + 1, 20, 4, 5, 1), tarnStatusOk);
-  for (float v : buf) EXPECT_EQ(v, 1.0f);
-}
-
 // Copy with the destination laid over the source at element shifts: alike, overlapping by an
 // element, a row, an object, or apart. Objects are packed (LayoutS), packed behind a table
 // (LayoutL) or element streams (LayoutP), or each destination object (stream) shares two

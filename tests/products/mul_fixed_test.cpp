@@ -6,16 +6,11 @@
 #include <random>
 
 #include "operand.hpp"
+#include "ref/geometry_ref.hpp"
 #include "tarn.h"
 
 namespace tt {
 namespace {
-
-void reference(const float* a, const float* b, float* d) {
-  for (int i = 0; i < 4; ++i)
-    for (int j = 0; j < 4; ++j)
-      d[4 * i + j] = ((a[4 * i] * b[j] + a[4 * i + 1] * b[4 + j]) + a[4 * i + 2] * b[8 + j]) + a[4 * i + 3] * b[12 + j];
-}
 
 TEST(MulFixed, Mm4x4AlignedUnalignedAndInPlace) {
   std::mt19937 rng(5);
@@ -29,7 +24,7 @@ TEST(MulFixed, Mm4x4AlignedUnalignedAndInPlace) {
     a[0] = -0.0f;  // -0 * x + ...: the sum starts from the first product, not from +0
     b[1] = 0.0f;
     float want[16];
-    reference(a, b, want);
+    ref::mul(a, b, want);
     ASSERT_EQ(tarnMul_mm4x4_32f(a, b, d), tarnStatusOk);
     EXPECT_EQ(std::memcmp(d, want, sizeof want), 0) << offset;
     float a2[16], b2[16];
