@@ -1,8 +1,6 @@
-// Transform builders: the sine and cosine they share against long double, every builder against
-// a model typed from its element table (all 16 elements, operands on guarded pages), and the
-// matrices against what they mean geometrically.
+// Transform builders: the sine and cosine they share against long double, and every builder
+// against a model typed from its element table (all 16 elements, operands on guarded pages).
 #include <functional>
-#include <numbers>
 #include <string>
 #include <vector>
 
@@ -218,49 +216,6 @@ TEST(GeometryBuilders, EveryElementAsItsTableSays) {
   float m[16];
   tarnRotationX_m4_32f(0.0f, m);
   EXPECT_EQ(bitsOf(m[9]), 0u);  // 0 - s is +0.0
-}
-
-// Row vector v times m, then divided by w.
-void apply(const float* m, const float* v, float* out) { ref::coord(m, v, out, 3, false); }
-void near(const float* got, std::initializer_list<float> want, float tol, const char* what) {
-  int i = 0;
-  for (float w : want) EXPECT_NEAR(got[i++], w, tol) << what << " element " << i - 1;
-}
-
-TEST(GeometryBuilders, MatricesDoWhatTheyAreFor) {
-  const float pi2 = std::numbers::pi_v<float> / 2;
-  float m[16], p[3];
-  const float eye[3] = {1, 2, 3}, at[3] = {4, -2, 3}, up[3] = {0, 0, 1};  // |at - eye| = 5
-  tarnLookAtLH_m4_32f(eye, at, up, m);
-  apply(m, eye, p), near(p, {0, 0, 0}, 1e-6f, "LH eye");
-  apply(m, at, p), near(p, {0, 0, 5}, 4e-6f, "LH at");
-  tarnLookAtRH_m4_32f(eye, at, up, m);
-  apply(m, at, p), near(p, {0, 0, -5}, 4e-6f, "RH at");
-  const float ex[3] = {1, 0, 0}, ey[3] = {0, 1, 0}, ez[3] = {0, 0, 1}, axis[3] = {0, 0, 2};
-  tarnRotationZ_m4_32f(pi2, m), apply(m, ex, p), near(p, {0, 1, 0}, 1e-7f, "RotationZ");
-  tarnRotationX_m4_32f(pi2, m), apply(m, ey, p), near(p, {0, 0, 1}, 1e-7f, "RotationX");
-  tarnRotationY_m4_32f(pi2, m), apply(m, ez, p), near(p, {1, 0, 0}, 1e-7f, "RotationY");
-  tarnRotationAxis_v3m4_32f(axis, pi2, m), apply(m, ex, p), near(p, {0, 1, 0}, 1e-7f, "RotationAxis");
-  tarnRotationYawPitchRoll_m4_32f(0, 0, pi2, m), apply(m, ex, p), near(p, {0, 1, 0}, 1e-7f, "roll");
-  // Near and far planes to depths 0 and 1; right-handed views look down -z.
-  const float n = 0.5f, f = 40.0f, nearL[3] = {0.1f, 0.2f, n}, farL[3] = {3, -1, f}, nearR[3] = {0.1f, 0.2f, -n},
-              farR[3] = {3, -1, -f};
-  auto depths = [&](const char* what, const float* lo, const float* hi) {
-    apply(m, lo, p);
-    EXPECT_NEAR(p[2], 0.0f, 1e-6f) << what;
-    apply(m, hi, p);
-    EXPECT_NEAR(p[2], 1.0f, 1e-6f) << what;
-  };
-  tarnPerspectiveLH_m4_32f(2, 1.5f, n, f, m), depths("PerspectiveLH", nearL, farL);
-  tarnPerspectiveRH_m4_32f(2, 1.5f, n, f, m), depths("PerspectiveRH", nearR, farR);
-  tarnPerspectiveFovLH_m4_32f(1.0f, 1.5f, n, f, m), depths("PerspectiveFovLH", nearL, farL);
-  tarnPerspectiveFovRH_m4_32f(1.0f, 1.5f, n, f, m), depths("PerspectiveFovRH", nearR, farR);
-  tarnPerspectiveOffCenterLH_m4_32f(-1, 2, -1, 1, n, f, m), depths("PerspectiveOffCenterLH", nearL, farL);
-  tarnOrthoLH_m4_32f(4, 3, n, f, m), depths("OrthoLH", nearL, farL);
-  tarnOrthoOffCenterRH_m4_32f(-1, 2, -1, 1, n, f, m), depths("OrthoOffCenterRH", nearR, farR);
-  // The corner (r, t) of an off-centre near plane to the corner (1, 1) of the cube.
-  const float corner[3] = {2, 1, n};
-  tarnPerspectiveOffCenterLH_m4_32f(-1, 2, -1, 1, n, f, m), apply(m, corner, p), near(p, {1, 1, 0}, 1e-6f, "corner");
 }
 
 }  // namespace

@@ -127,21 +127,6 @@ TEST(GeometryTransforms, ProjectAndUnprojectSingleAndArray) {
   }
 }
 
-TEST(GeometryTransforms, UnprojectUndoesProject) {
-  const float eye[3] = {2, 3, -10}, at[3] = {0, 0, 0}, up[3] = {0, 1, 0};
-  float world[16], view[16], proj[16], p[3], back[3];
-  tarnIdentity_m4_32f(world);
-  tarnLookAtLH_m4_32f(eye, at, up, view);
-  tarnPerspectiveFovLH_m4_32f(0.9f, 4.0f / 3, 0.5f, 100.0f, proj);
-  const float points[3][3] = {{0, 0, 0}, {1, 2, 3}, {-3, 1, 5}};
-  for (const float* pt : points) {
-    ASSERT_EQ(tarnProject_m4v3_32f(proj, view, world, pt, 640, 480, 0, 1, p), tarnStatusOk);
-    EXPECT_TRUE(p[0] > 0 && p[0] < 640 && p[1] > 0 && p[1] < 480 && p[2] > 0 && p[2] < 1);
-    ASSERT_EQ(tarnUnproject_m4v3_32f(proj, view, world, p, 640, 480, 0, 1, back), tarnStatusOk);
-    for (int i = 0; i < 3; ++i) EXPECT_NEAR(back[i], pt[i], 2e-4f);
-  }
-}
-
 // ---- AffineTransform3DH ---------------------------------------------------------------------
 
 const MemberFn& h3d() { return member("tarnAffineTransform3DH_mva_32f"); }

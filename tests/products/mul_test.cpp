@@ -74,11 +74,8 @@ MulOrder orderOf(const Product& p, bool contig) {
 std::string checkProduct(const Product& p, int count, const Style& st, int threads, unsigned seed,
                          const int* passed = nullptr) {
   const int R = p.z.rows, K = p.z.inner, C = p.z.cols;
-  CallFixture fx(*p.m, count, st, [&](int b) -> Extent {
-    return b == 0 ? Extent{p.h1, p.w1} : b == 1 ? Extent{p.h2, p.w2} : Extent{R, C};
-  });
-  std::mt19937 rng(seed);
-  fx.fillSources(rng, false);
+  auto placedFx = placed(*p.m, {{"src1Width", p.w1}, {"src1Height", p.h1}, {"src2Width", p.w2}, {"src2Height", p.h2}}, count, st, seed);
+  CallFixture& fx = *placedFx;
   // Row 0 of src1 as seen is -0.0 and column 0 of src2 positive: element (0,0) sums only -0.0,
   // which a kernel keeps and the general paths, starting from +0.0, turn into +0.0.
   for (int o = 0; o < (fx.isArray(0) ? count : 1); ++o)

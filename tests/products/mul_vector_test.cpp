@@ -110,13 +110,9 @@ MvRun runMv(const MemberFn& m, int w, int h, int count, const Style& st, int thr
   const Form f = formOf(m);
   const int rows = f.t ? w : h, inner = f.t ? h : w, esize = f.nm.esize;
   const int dstBlock = f.gaxpy ? 3 : 2;
-  CallFixture fx(m, count, st, [&](int b) -> Extent {
-    if (b == 0) return {h, w};
-    if (b == 1) return {1, inner};
-    return {1, rows};
-  });
-  std::mt19937 rng(seed);
-  fx.fillSources(rng, fill == MvFill::Specials);
+  auto placedFx = placed(m, {{"src1Width", w}, {"src1Height", h}, {"src2Len", inner}, {"src3Len", rows}}, count, st, seed,
+                         fill == MvFill::Specials);
+  CallFixture& fx = *placedFx;
   if (fill == MvFill::NegativeZeros) {  // every product -0.0, and src3 too
     for (int n = 0; n < (f.aArr ? count : 1); ++n)
       for (int r = 0; r < h; ++r)

@@ -63,15 +63,9 @@ std::string runCase(const MemberFn& m, const Shape& sh, int count, const Style& 
                     bool specials = false, int alias = -1) {
   const Name nm = parseName(m.name);
   const bool cross = nm.family == "CrossProduct";
-  CallFixture fx(m, count, st, [&](int i) -> Extent {
-    if (cross) return {1, 3};
-    return m.blk[i].kind == 0 ? Extent{1, 1} : Extent{sh.h, sh.w};
-  });
-  std::mt19937 rng(seed);
-  fx.fillSources(rng, specials);
+  auto placedFx = placed(m, {{"len", sh.w}, {"width", sh.w}, {"widthHeight", sh.w}, {"height", sh.h}}, count, st, seed, specials);
+  CallFixture& fx = *placedFx;
   Args& a = fx.args;
-  a.len = a.width = a.order = sh.w;
-  a.height = sh.h;
   if (alias >= 0) a.op[m.nop - 1] = a.op[alias];
   const bool contig = fx.contiguous();
   const tarnStatus status = fx.run(1);

@@ -99,8 +99,9 @@ struct MemberShape {
 };
 const MemberShape* shapeOf(const std::string& exportName);
 
-// Member `m` with sizes `z` (completed and made to fit its shape rule) on `count` objects placed
-// in `st`; the call's sizes and count are set, the sources filled from `seed`.
+// Member `m` with sizes `z` on `count` objects placed in `st`; the call's sizes and count are set,
+// the sources filled from `seed`. Missing sizes take their defaults, then each equation of the
+// shape rule sets one side from the other: give every size the rule ties to keep them all.
 std::unique_ptr<CallFixture> placed(const MemberFn& m, Sizes z, int count, const Style& st, unsigned seed,
                                     bool specials = false);
 
