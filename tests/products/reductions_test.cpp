@@ -1,8 +1,8 @@
 // DotProduct, CrossProduct, L2Norm, FrobNorm and Trace against the plain models of
 // ref/reduction_ref.hpp: every member on shapes that reach every body, in every placement
-// (guarded operands prove the lane kernels read nothing past the last object), counts around
-// the blocks of four; long runs at every byte offset (the peels); in-place cross products; no
-// scaling.
+// (guarded operands prove the lane kernels read nothing past the last object; elements at every
+// offset from a 16-byte boundary, the peels), counts around the blocks of four; in-place cross
+// products; no scaling.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -104,12 +104,13 @@ const Family kFamilies[] = {
 };
 
 // Besides the shared placements: objects with a gap between them, the last one right before an
-// inaccessible page, so a 16-byte load of a 3-element row that is not the packed case is seen.
-const Style kGappedGuard{.name = "guarded-gapped", .objPadBytes = 8, .guard = true};
-
+// inaccessible page, so a 16-byte load of a 3-element row that is not the packed case is seen;
+// and elements 2, 8 and 12 bytes past a 64-byte boundary, where the peels up to a 16-byte
+// boundary take 1 to 3 elements or, off the element size, there is no vector part.
 TEST(Reductions, EveryMemberShapeAndPlacement) {
   std::vector<Style> placements = styles();
-  placements.push_back(kGappedGuard);
+  placements.push_back({.name = "guarded-gapped", .objPadBytes = 8, .guard = true});
+  for (int bytes : {2, 8, 12}) placements.push_back({.name = "bytes", .misalignBytes = bytes});
   for (const Family& f : kFamilies) {
     const auto members = membersOf(f.name);
     ASSERT_EQ(members.size(), f.members) << f.name;
@@ -124,62 +125,6 @@ TEST(Reductions, EveryMemberShapeAndPlacement) {
           }
     }
   }
-}
-
-// Long contiguous runs at every byte offset of both operands: the peel up to src2's (L2Norm:
-// src's) 16-byte boundary, the fallback for addresses off the element size, and FrobNorm's
-// 1 x n and n x 1 runs, which add in one order.
-template <class T>
-void peelSweep() {
-  constexpr int kE = sizeof(T);
-  alignas(64) unsigned char buf1[64 + 40 * 8], buf2[64 + 40 * 8];
-  std::mt19937 rng(5);
-  for (int len : {7, 8, 9, 10, 11, 12, 15, 16, 17, 23, 40})
-    for (int o1 = 0; o1 < 16; ++o1)
-      for (int o2 = 0; o2 < 16; ++o2) {
-        std::vector<T> x(len), y(len);
-        ref::Terms<T> p, q;
-        for (int k = 0; k < len; ++k) {
-          x[k] = T(randomValue(rng, kE));
-          y[k] = T(randomValue(rng, kE));
-          p.push_back(x[k] * y[k]);
-          q.push_back(y[k] * y[k]);
-        }
-        unsigned char* px = buf1 + o1;
-        unsigned char* py = buf2 + o2;
-        std::memcpy(px, x.data(), len * kE);
-        std::memcpy(py, y.data(), len * kE);
-        const auto* cx = reinterpret_cast<const T*>(px);
-        const auto* cy = reinterpret_cast<const T*>(py);
-        T dot = 0, norm = 0, frobRow = 0, frobCol = 0;
-        if constexpr (kE == 4) {
-          tarnDotProduct_vv_32f(cx, 4, cy, 4, &dot, len);
-          tarnL2Norm_v_32f(cy, 4, &norm, len);
-          tarnFrobNorm_m_32f(cy, 4 * len, 4, len, 1, &frobRow);
-          tarnFrobNorm_m_32f(cy, 4, 4, 1, len, &frobCol);
-        } else {
-          tarnDotProduct_vv_64f(cx, 8, cy, 8, &dot, len);
-          tarnL2Norm_v_64f(cy, 8, &norm, len);
-          tarnFrobNorm_m_64f(cy, 8 * len, 8, len, 1, &frobRow);
-          tarnFrobNorm_m_64f(cy, 8, 8, 1, len, &frobCol);
-        }
-        const uint64_t at = reinterpret_cast<uintptr_t>(py);
-        const std::string where = std::to_string(len) + " at " + std::to_string(o1) + "/" + std::to_string(o2);
-        EXPECT_EQ(bitsOf(dot, kE), bitsOf(ref::dotContiguous(p, at, false), kE)) << "dot " << where;
-        EXPECT_EQ(bitsOf(norm, kE), bitsOf(std::sqrt(ref::normContiguous(q, at)), kE)) << "norm " << where;
-        const ref::FrobInput<T> row{{q}, false, kE * len, kE, at};
-        if constexpr (kE == 4) {
-          EXPECT_EQ(bitsOf(frobRow, kE), bitsOf(std::sqrt(ref::frob32Sum(row)), kE)) << "frob " << where;
-          EXPECT_EQ(bitsOf(frobCol, kE), bitsOf(frobRow, kE)) << "frob column " << where;
-        } else {
-          EXPECT_EQ(bitsOf(frobRow, kE), bitsOf(std::sqrt(ref::frob64Sum(row)), kE)) << "frob " << where;
-        }
-      }
-}
-
-TEST(Reductions, PeelsFollowTheAddress) {
-  peelSweep<float>();
-  peelSweep<double>();
 }
 
 // dst over either source: every object is read whole before it is written.
