@@ -1,8 +1,7 @@
 // The element-wise families and the products with a constant swept the same way: every member
 // against its family's reference on shapes that reach every body, in every placement, and in
-// place over the first operand; then what a model cannot show: which operand is the minuend and
-// which scalar scales which operand, how tc stores its source, the order of elements in
-// overlapping runs, and the table members that take any shift.
+// place over the first operand; then what a model cannot show: how tc stores its source, the
+// order of elements in overlapping runs, and the table members that take any shift.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -92,47 +91,6 @@ TEST(Elementwise, TransposedSourceIsStoredWithWidthRows) {
   const float want[3][2] = {{2, 8}, {4, 10}, {6, 12}};
   for (int i = 0; i < 3; ++i)
     for (int j = 0; j < 2; ++j) EXPECT_EQ(dst[i][j], want[i][j]) << i << j;
-}
-
-// Hand-checked values: the minuend is the operand named first, whatever the argument order.
-TEST(Elementwise, MinuendIsNamedFirst) {
-  const float src[3] = {0.25f, 2.0f, -1.5f};
-  float vc[3], cv[3];
-  ASSERT_EQ(tarnSub_vc_32f(src, 4, 1.0f, vc, 4, 3), tarnStatusOk);
-  ASSERT_EQ(tarnSub_cv_32f(src, 4, 1.0f, cv, 4, 3), tarnStatusOk);
-  const float wantCv[3] = {0.75f, -1.0f, 2.5f};
-  for (int i = 0; i < 3; ++i) {
-    EXPECT_EQ(cv[i], wantCv[i]) << i;
-    EXPECT_EQ(vc[i], -wantCv[i]) << i;
-  }
-  // mma: the single matrix minus each object of the array.
-  const double one[4] = {10, 20, 30, 40}, arr[8] = {1, 2, 3, 4, 5, 6, 7, 8}, want[8] = {9, 18, 27, 36, 5, 14, 23, 32};
-  double d[8];
-  ASSERT_EQ(tarnSub_mma_64f(one, 16, 8, arr, 32, 16, 8, d, 32, 16, 8, 2, 2, 2), tarnStatusOk);
-  for (int i = 0; i < 8; ++i) EXPECT_EQ(d[i], want[i]) << i;
-  // cav: the constant of each object minus the single vector; cva: the one constant minus each.
-  const double v2[2] = {1, 2}, vals[2] = {10, 100}, va[4] = {1, 2, 3, 4};
-  double e[4];
-  ASSERT_EQ(tarnSub_cav_64f(v2, 8, vals, 8, e, 16, 8, 2, 2), tarnStatusOk);
-  EXPECT_TRUE(e[0] == 9 && e[1] == 8 && e[2] == 99 && e[3] == 98);
-  ASSERT_EQ(tarnSub_cva_64f(va, 16, 8, 5.0, e, 16, 8, 2, 2), tarnStatusOk);
-  EXPECT_TRUE(e[0] == 4 && e[3] == 1);
-}
-
-// The scalars stand right behind the operand they multiply: val scales src1, never src2.
-TEST(Elementwise, ScalarsScaleTheirOwnOperand) {
-  const float x[4] = {1, 2, 3, 4}, y[4] = {100, 200, 300, 400};
-  float d[4];
-  ASSERT_EQ(tarnSaxpy_vv_32f(x, 4, 0.5f, y, 4, d, 4, 4), tarnStatusOk);
-  EXPECT_TRUE(d[0] == 100.5f && d[3] == 402.0f);
-  ASSERT_EQ(tarnLComb_vv_32f(x, 4, 2.0f, y, 4, 0.25f, d, 4, 4), tarnStatusOk);
-  EXPECT_TRUE(d[0] == 27.0f && d[3] == 108.0f);
-  double e[6];
-  const double a[6] = {1, 2, 3, 4, 5, 6}, one[3] = {10, 20, 30};
-  ASSERT_EQ(tarnSaxpy_vva_64f(one, 8, 3.0, a, 24, 8, e, 24, 8, 3, 2), tarnStatusOk);
-  EXPECT_TRUE(e[0] == 31 && e[5] == 96);
-  ASSERT_EQ(tarnLComb_vav_64f(a, 24, 8, 2.0, one, 8, -1.0, e, 24, 8, 3, 2), tarnStatusOk);
-  EXPECT_TRUE(e[0] == -8 && e[5] == -18);
 }
 
 // The two table members without a shift check take a negative roiShift as it is and read at the

@@ -45,17 +45,6 @@ std::vector<const MemberFn*> matvecMembers() {
   return out;
 }
 
-// The work estimate and the smallest E that opens a region, as documented.
-int64_t estimateOf(const Form& f, int w, int h, int64_t count) {
-  const int64_t rows = f.t ? w : h, inner = f.t ? h : w;
-  if (f.gaxpy) return f.s3Arr ? (inner + 2 * rows) * count : inner * count + rows * (count + 1);
-  return int64_t(w) * h * (f.aArr ? count : 1) + inner * (f.vArr ? count : 1) + rows * count;
-}
-int64_t thresholdOf(const Form& f, bool contig) {
-  if (f.gaxpy) return 5001;
-  if (f.nm.layout == 'P') return 9217;
-  return f.nm.layout == 'S' && contig ? 36865 : 18433;
-}
 
 enum class MvFill { Random, Specials, NegativeZeros };
 
@@ -123,13 +112,13 @@ MvRun runMv(const MemberFn& m, int w, int h, int count, const Style& st, int thr
       for (int n = 0; n < (f.s3Arr ? count : 1); ++n)
         for (int i = 0; i < rows; ++i) fx.block(2).set(n, 0, i, -0.0);
   }
-  const tarnStatus status = fx.run(threads);
+  tarnStatus status = 0;
+  const bool region = regionsOpenedBy([&] { status = fx.run(threads); }) > 0;
 
   const bool contig = f.nm.layout != 'P' && fx.contiguous();
   // Each thread's slice, as the wrapper splits the objects when it opens a region.
   std::vector<bool> lone(size_t(count), false);
-  int parts = 1;
-  if (f.anyArr && threads >= 2 && count >= threads && estimateOf(f, w, h, count) >= thresholdOf(f, contig)) parts = threads;
+  const int parts = region ? threads : 1;
   for (int id = 0, first = 0; id < parts; ++id) {
     const int q = count / parts, r = count % parts, n = id < r ? q + 1 : q;
     if (n % 2) lone[size_t(first + n - 1)] = true;
@@ -193,12 +182,12 @@ TEST(MulVector, ThreadSlicesAndPairs) {
     struct Case {
       int w, h;
       const char* style;
+      int count;
     };
-    for (const Case& c : {Case{4, 4, "aligned16"}, Case{10, 9, "packed"}, Case{9, 10, "strided"}}) {
-      // The smallest odd count past the threshold of the path: some slices are odd for 2 to 4
-      // threads.
-      int count = 5;
-      while (estimateOf(f, c.w, c.h, count) < thresholdOf(f, std::string(c.style) != "strided")) count += 2;
+    // Odd counts past the threshold of every member on the path: some slices are odd for 2 to 4
+    // threads.
+    for (const Case& c : {Case{4, 4, "aligned16", 4609}, Case{10, 9, "packed", 1941}, Case{9, 10, "strided", 971}}) {
+      const int count = c.count;
       const MvRun one = runMv(*m, c.w, c.h, count, style(c.style), 1, 9, MvFill::Random);
       EXPECT_EQ(one.failure, "");
       for (int threads : {2, 3, 4}) {
