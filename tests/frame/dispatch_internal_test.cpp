@@ -1,5 +1,4 @@
-// The parallel wrapper's split, its serial fallbacks, its scratch and the slices of its operands,
-// and the load-time feature flag.
+// The parallel wrapper's scratch and the slices of its operands, and the load-time feature flag.
 #include <gtest/gtest.h>
 #include <omp.h>
 
@@ -15,61 +14,28 @@
 namespace tarn {
 namespace {
 
-struct Seen {
-  int32_t first, n;
-  bool inRegion;
-  std::byte* scratch;
-};
-
-std::vector<Seen> runWith(int threads, int32_t count, size_t scratch = 0) {
-  std::vector<Seen> seen;
+// The scratch each slice of a call of `count` objects on `threads` threads gets, in address order.
+std::vector<std::byte*> scratchOf(int threads, int32_t count, size_t scratch) {
+  std::vector<std::byte*> seen;
   std::mutex mu;
   omp_set_num_threads(threads);
-  parallelRun<true>(count, scratch, [&](int32_t first, int32_t n, std::byte* p) {
+  parallelRun<true>(count, scratch, [&](int32_t, int32_t, std::byte* p) {
     std::lock_guard<std::mutex> lock(mu);
-    seen.push_back({first, n, omp_in_parallel() != 0, p});
+    seen.push_back(p);
     return tarnStatusOk;
   });
   omp_set_num_threads(1);
-  std::sort(seen.begin(), seen.end(), [](const Seen& a, const Seen& b) { return a.first < b.first; });
+  std::sort(seen.begin(), seen.end());
   return seen;
 }
 
-TEST(ParallelWrapper, SplitsByTheTeamWithTheRemainderFirst) {
-  struct Case {
-    int threads;
-    int32_t count;
-    std::vector<std::pair<int32_t, int32_t>> slices;  // (first, n); empty slices included
-    bool region;
-  };
-  const Case cases[] = {
-      {3, 10, {{0, 4}, {4, 3}, {7, 3}}, true},
-      {4, 4, {{0, 1}, {1, 1}, {2, 1}, {3, 1}}, true},
-      {2, 7, {{0, 4}, {4, 3}}, true},
-      {4, 3, {{0, 3}}, false},   // fewer objects than threads: serial, whatever the size
-      {1, 1000, {{0, 1000}}, false},
-  };
-  for (const Case& c : cases) {
-    const auto seen = runWith(c.threads, c.count);
-    ASSERT_EQ(seen.size(), c.slices.size()) << c.threads << " " << c.count;
-    for (size_t i = 0; i < seen.size(); ++i) {
-      EXPECT_EQ(seen[i].first, c.slices[i].first);
-      EXPECT_EQ(seen[i].n, c.slices[i].second);
-      EXPECT_EQ(seen[i].inRegion, c.region);
-    }
-  }
-}
-
 TEST(ParallelWrapper, ScratchIsOneBlockCutPerThread) {
-  const auto seen = runWith(3, 9, 256);
-  ASSERT_EQ(seen.size(), 3u);
-  std::vector<std::byte*> p;
-  for (const auto& s : seen) p.push_back(s.scratch);
-  std::sort(p.begin(), p.end());
+  const auto p = scratchOf(3, 9, 256);
+  ASSERT_EQ(p.size(), 3u);
   EXPECT_NE(p[0], nullptr);
   EXPECT_EQ(p[1] - p[0], 256);
   EXPECT_EQ(p[2] - p[1], 256);
-  EXPECT_EQ(runWith(1, 9, 256)[0].scratch, nullptr);  // the serial path uses the caller's buffer
+  EXPECT_EQ(scratchOf(1, 9, 256)[0], nullptr);  // the serial path uses the caller's buffer
 }
 
 // A thread's slice of a call: each kind of block moves its own way from object `first` on.

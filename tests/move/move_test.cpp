@@ -78,15 +78,5 @@ TEST(Move, CopyOverlapEveryPairFollowsTheElementOrder) {
     }
 }
 
-// By hand, not through the model: a stored 2 x 3 matrix read transposed gives 3 rows of 2.
-TEST(Move, ExtractTransposedReadGivesHeightRowsOfWidth) {
-  const float stored[2][3] = {{1, 2, 3}, {4, 5, 6}};
-  float out[7];
-  std::fill(std::begin(out), std::end(out), -1.0f);
-  ASSERT_EQ(tarnExtract_t_32f(&stored[0][0], 12, 4, out, 2, 3), tarnStatusOk);
-  const float want[7] = {1, 4, 2, 5, 3, 6, -1};
-  EXPECT_EQ(std::memcmp(out, want, sizeof out), 0);
-}
-
 }  // namespace
 }  // namespace movetest
