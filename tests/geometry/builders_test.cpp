@@ -2,6 +2,7 @@
 // against a model typed from its element table (all 16 elements, operands on guarded pages).
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "fixed.hpp"
@@ -109,21 +110,15 @@ void upperLeft(const float* r, float* m) {  // a 3x3 block and the identity arou
 }
 
 using Call = std::function<tarnStatus(const std::string& name, const float* k, const float* v, float* d)>;
-using F4 = tarnStatus (*)(float, float, float, float, float*);
-using F6 = tarnStatus (*)(float, float, float, float, float, float, float*);
-using F3 = tarnStatus (*)(float, float, float, float*);
-const Call kFour = [](const std::string& n, const float* k, const float*, float* d) {
-  return exported<F4>(n)(k[0], k[1], k[2], k[3], d);
-};
-const Call kSix = [](const std::string& n, const float* k, const float*, float* d) {
-  return exported<F6>(n)(k[0], k[1], k[2], k[3], k[4], k[5], d);
-};
-const Call kThree = [](const std::string& n, const float* k, const float*, float* d) {
-  return exported<F3>(n)(k[0], k[1], k[2], d);
-};
-const Call kAngle = [](const std::string& n, const float* k, const float*, float* d) {
-  return exported<tarnStatus (*)(float, float*)>(n)(k[0], d);
-};
+template <size_t>
+using Float = float;
+// A builder of N floats by value: k[0] to k[N-1].
+template <size_t N>
+tarnStatus byValue(const std::string& n, const float* k, const float*, float* d) {
+  return [&]<size_t... I>(std::index_sequence<I...>) {
+    return exported<tarnStatus (*)(Float<I>..., float*)>(n)(k[I]..., d);
+  }(std::make_index_sequence<N>{});
+}
 
 struct Builder {
   std::string name;
@@ -140,14 +135,14 @@ std::vector<Builder> builders() {
                                                                                                         d);
                  },
                  [lh](const float* k, float* m) { lookAtModel(k, lh, m); }});
-    b.push_back({"Ortho" + h, kFour, [lh](const float* k, float* m) { orthoModel(k, lh, false, m); }});
-    b.push_back({"OrthoOffCenter" + h, kSix, [lh](const float* k, float* m) { orthoModel(k, lh, true, m); }});
-    b.push_back({"Perspective" + h, kFour, [lh](const float* k, float* m) { perspectiveModel(k, lh, 0, m); }});
-    b.push_back({"PerspectiveOffCenter" + h, kSix, [lh](const float* k, float* m) { perspectiveModel(k, lh, 1, m); }});
-    b.push_back({"PerspectiveFov" + h, kFour, [lh](const float* k, float* m) { perspectiveModel(k, lh, 2, m); }});
+    b.push_back({"Ortho" + h, byValue<4>, [lh](const float* k, float* m) { orthoModel(k, lh, false, m); }});
+    b.push_back({"OrthoOffCenter" + h, byValue<6>, [lh](const float* k, float* m) { orthoModel(k, lh, true, m); }});
+    b.push_back({"Perspective" + h, byValue<4>, [lh](const float* k, float* m) { perspectiveModel(k, lh, 0, m); }});
+    b.push_back({"PerspectiveOffCenter" + h, byValue<6>, [lh](const float* k, float* m) { perspectiveModel(k, lh, 1, m); }});
+    b.push_back({"PerspectiveFov" + h, byValue<4>, [lh](const float* k, float* m) { perspectiveModel(k, lh, 2, m); }});
   }
   for (int axis = 0; axis < 3; ++axis)
-    b.push_back({std::string("Rotation") + "XYZ"[axis], kAngle,
+    b.push_back({std::string("Rotation") + "XYZ"[axis], byValue<1>,
                  [axis](const float* k, float* m) { rotationModel(k[0], axis, m); }});
   b.push_back({"RotationAxis",
                [](const std::string& n, const float* k, const float* v, float* d) {
@@ -162,21 +157,15 @@ std::vector<Builder> builders() {
                                      s * y + (u * x) * z, (u * y) * z - s * x, c + (u * z) * z};
                  upperLeft(r, m);
                }});
-  b.push_back({"RotationYawPitchRoll", kThree, [](const float* k, float* m) {
+  b.push_back({"RotationYawPitchRoll", byValue<3>, [](const float* k, float* m) {
                  const SC y = sinCos(k[0]), p = sinCos(k[1]), r = sinCos(k[2]);
-                 const float u[9] = {r.s * (y.s * p.s) + y.c * r.c,
-                                     p.c * r.s,
-                                     r.s * (p.s * y.c) - y.s * r.c,
-                                     (y.s * p.s) * r.c - y.c * r.s,
-                                     p.c * r.c,
-                                     y.s * r.s + r.c * (p.s * y.c),
-                                     y.s * p.c,
-                                     0.0f - p.s,
-                                     y.c * p.c};
+                 const float u[9] = {r.s * (y.s * p.s) + y.c * r.c, p.c * r.s, r.s * (p.s * y.c) - y.s * r.c,
+                                     (y.s * p.s) * r.c - y.c * r.s, p.c * r.c, y.s * r.s + r.c * (p.s * y.c),
+                                     y.s * p.c, 0.0f - p.s, y.c * p.c};
                  upperLeft(u, m);
                }});
-  b.push_back({"Scaling", kThree, [](const float* k, float* m) { m[0] = k[0], m[5] = k[1], m[10] = k[2], m[15] = 1; }});
-  b.push_back({"Translation", kThree, [](const float* k, float* m) {
+  b.push_back({"Scaling", byValue<3>, [](const float* k, float* m) { m[0] = k[0], m[5] = k[1], m[10] = k[2], m[15] = 1; }});
+  b.push_back({"Translation", byValue<3>, [](const float* k, float* m) {
                  m[0] = m[5] = m[10] = m[15] = 1, m[12] = k[0], m[13] = k[1], m[14] = k[2];
                }});
   return b;
