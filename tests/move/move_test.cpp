@@ -4,7 +4,6 @@
 // show.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstring>
 #include <utility>
 #include <vector>

@@ -11,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstring>
 
 #include "harness.hpp"
 #include "ref/matvec_ref.hpp"

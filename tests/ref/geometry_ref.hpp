@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cmath>
-#include <cstdint>
 #include <cstring>
 
 namespace tt::ref {
