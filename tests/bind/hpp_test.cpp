@@ -13,7 +13,6 @@
 #include <vector>
 
 #include "harness.hpp"
-#include "shapes.hpp"
 #include "tarn.hpp"
 
 namespace {

@@ -9,7 +9,7 @@
 #include <latch>
 #include <thread>
 
-#include "batches.hpp"
+#include "harness.hpp"
 #include "regions.hpp"
 
 namespace tt {

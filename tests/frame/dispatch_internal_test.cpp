@@ -1,10 +1,8 @@
-// The parallel wrapper's split, its serial fallbacks, its shared status and scratch, and the
-// load-time feature flag.
+// The parallel wrapper's scratch and the slices of its operands, and the load-time feature flag.
 #include <gtest/gtest.h>
 #include <omp.h>
 
 #include <algorithm>
-#include <atomic>
 #include <mutex>
 #include <vector>
 
@@ -16,72 +14,28 @@
 namespace tarn {
 namespace {
 
-struct Seen {
-  int32_t first, n;
-  bool inRegion;
-  std::byte* scratch;
-};
-
-std::vector<Seen> runWith(int threads, int32_t count, size_t scratch = 0, tarnStatus (*st)(int32_t) = nullptr,
-                          tarnStatus* result = nullptr) {
-  std::vector<Seen> seen;
+// The scratch each slice of a call of `count` objects on `threads` threads gets, in address order.
+std::vector<std::byte*> scratchOf(int threads, int32_t count, size_t scratch) {
+  std::vector<std::byte*> seen;
   std::mutex mu;
   omp_set_num_threads(threads);
-  const tarnStatus s = parallelRun<true>(count, scratch, [&](int32_t first, int32_t n, std::byte* p) {
+  parallelRun<true>(count, scratch, [&](int32_t, int32_t, std::byte* p) {
     std::lock_guard<std::mutex> lock(mu);
-    seen.push_back({first, n, omp_in_parallel() != 0, p});
-    return st ? st(first) : tarnStatusOk;
+    seen.push_back(p);
+    return tarnStatusOk;
   });
   omp_set_num_threads(1);
-  if (result) *result = s;
-  std::sort(seen.begin(), seen.end(), [](const Seen& a, const Seen& b) { return a.first < b.first; });
+  std::sort(seen.begin(), seen.end());
   return seen;
 }
 
-TEST(ParallelWrapper, SplitsByTheTeamWithTheRemainderFirst) {
-  struct Case {
-    int threads;
-    int32_t count;
-    std::vector<std::pair<int32_t, int32_t>> slices;  // (first, n); empty slices included
-    bool region;
-  };
-  const Case cases[] = {
-      {3, 10, {{0, 4}, {4, 3}, {7, 3}}, true},
-      {4, 4, {{0, 1}, {1, 1}, {2, 1}, {3, 1}}, true},
-      {2, 7, {{0, 4}, {4, 3}}, true},
-      {4, 3, {{0, 3}}, false},   // fewer objects than threads: serial, whatever the size
-      {1, 1000, {{0, 1000}}, false},
-  };
-  for (const Case& c : cases) {
-    const auto seen = runWith(c.threads, c.count);
-    ASSERT_EQ(seen.size(), c.slices.size()) << c.threads << " " << c.count;
-    for (size_t i = 0; i < seen.size(); ++i) {
-      EXPECT_EQ(seen[i].first, c.slices[i].first);
-      EXPECT_EQ(seen[i].n, c.slices[i].second);
-      EXPECT_EQ(seen[i].inRegion, c.region);
-    }
-  }
-}
-
 TEST(ParallelWrapper, ScratchIsOneBlockCutPerThread) {
-  const auto seen = runWith(3, 9, 256);
-  ASSERT_EQ(seen.size(), 3u);
-  std::vector<std::byte*> p;
-  for (const auto& s : seen) p.push_back(s.scratch);
-  std::sort(p.begin(), p.end());
+  const auto p = scratchOf(3, 9, 256);
+  ASSERT_EQ(p.size(), 3u);
   EXPECT_NE(p[0], nullptr);
   EXPECT_EQ(p[1] - p[0], 256);
   EXPECT_EQ(p[2] - p[1], 256);
-  EXPECT_EQ(runWith(1, 9, 256)[0].scratch, nullptr);  // the serial path uses the caller's buffer
-}
-
-TEST(ParallelWrapper, FailingSlicesReportOneStatusAndOthersFinish) {
-  tarnStatus s = 0;
-  const auto seen = runWith(4, 8, 0, [](int32_t first) -> tarnStatus { return first >= 4 ? tarnStatusSingular : tarnStatusOk; }, &s);
-  EXPECT_EQ(seen.size(), 4u);
-  EXPECT_EQ(s, tarnStatusSingular);
-  runWith(4, 8, 0, nullptr, &s);
-  EXPECT_EQ(s, tarnStatusOk);
+  EXPECT_EQ(scratchOf(1, 9, 256)[0], nullptr);  // the serial path uses the caller's buffer
 }
 
 // A thread's slice of a call: each kind of block moves its own way from object `first` on.
@@ -112,65 +66,6 @@ TEST(ParallelWrapper, SliceMovesEveryArrayOperandToItsFirstObject) {
   EXPECT_EQ(s.op[4].ptr, scratch);
   EXPECT_EQ(s.op[5].ptr, c.op[5].ptr);
   EXPECT_EQ(sliceCall(c, 3, 2, nullptr).op[4].ptr, c.op[4].ptr);  // serial: the caller's buffer
-}
-
-// The path follows the element strides; the wrapper runs from the path's threshold on.
-TEST(ParallelWrapper, DriverTakesThePathOfTheStridesAndItsThreshold) {
-  Call c{};
-  c.nop = 1;
-  c.count = 8;
-  c.op[0].has = kElem;
-  const Plan plan{"", 100, 50, true, false};
-  struct Case {
-    int32_t elem, est;
-    bool contig, region;
-  };
-  const Case cases[] = {{4, 99, true, false}, {4, 100, true, true}, {8, 49, false, false}, {8, 50, false, true}};
-  omp_set_num_threads(2);
-  for (const Case& k : cases) {
-    c.op[0].elem = k.elem;
-    c.est = k.est;
-    // Written by every thread of a region: atomics, or the test itself races.
-    std::atomic<bool> contig = false, region = false;
-    drive<float, Layout::S>(plan, c, [&]<bool Contig>(const Call&) {
-      contig = Contig;
-      if (omp_in_parallel()) region = true;
-      return tarnStatusOk;
-    });
-    EXPECT_EQ(contig, k.contig) << k.elem << " " << k.est;
-    EXPECT_EQ(region, k.region) << k.elem << " " << k.est;
-  }
-  omp_set_num_threads(1);
-}
-
-// A letter with a scope looks only at the blocks read (s) or written (d); H applies the rule.
-TEST(Validation, ScopedLettersAndShapeRules) {
-  Call c{};
-  c.nop = 2;
-  c.count = 1;
-  c.op[0] = Blk{&c, 4, 4, 4, 0, 3, 3, 0, kObj | kRoi, 'm', false, Slice::Shared};
-  c.op[1] = Blk{&c, 4, 4, 4, 0, 0, 0, 0, kObj | kRoi, 'm', true, Slice::Shared};
-  c.op[0].obj = 2;  // a bad source stride
-  c.op[1].roi = 2;  // a bad destination shift
-  EXPECT_EQ(validate("RsTsRdTd", Rule::None, c, 4), tarnStatusBadStride);
-  EXPECT_EQ(validate("RsRdTsTd", Rule::None, c, 4), tarnStatusBadRoiShift);
-  EXPECT_EQ(validate("RsTd", Rule::None, c, 4), tarnStatusOk);
-  // A source stored with 3 rows of 2 times a 3 by 3 one: read as stored its 2 columns meet 3
-  // rows; transposed, its 3 columns fit.
-  c.op[0].w = 2;
-  c.op[1] = Blk{&c, 4, 4, 4, 0, 3, 3, 0, 0, 'm', false, Slice::Shared};
-  const std::pair<char, char> letters[] = {{'m', 'm'}, {'t', 't'}, {'t', 'm'}, {'m', 't'}};
-  const tarnStatus want[] = {tarnStatusShapeMismatch, tarnStatusOk, tarnStatusOk, tarnStatusShapeMismatch};
-  for (int i = 0; i < 4; ++i) {
-    c.op[0].kind = letters[i].first;
-    c.op[1].kind = letters[i].second;
-    EXPECT_EQ(validate("H", Rule::Product, c, 4), want[i]) << letters[i].first << letters[i].second;
-  }
-  c.width = 4;
-  c.height = 4;
-  EXPECT_EQ(validate("H", Rule::Tall, c, 4), tarnStatusOk);
-  c.width = 5;
-  EXPECT_EQ(validate("H", Rule::Tall, c, 4), tarnStatusShapeMismatch);
 }
 
 TEST(Start, FeaturesFlagNeedsBothBits) {

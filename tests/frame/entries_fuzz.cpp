@@ -17,10 +17,8 @@
 #include <string>
 #include <vector>
 
-#include "checks.hpp"
 #include "harness.hpp"
 #include "regions.hpp"
-#include "shapes.hpp"
 
 namespace tt {
 namespace {
@@ -139,60 +137,6 @@ bool shapeHolds(const Plan& p) {
   p.shape->sizes(fixed);
   const std::string fam = parseName(p.m->name).family;
   return fixed == p.z && !(fam.starts_with("QR") && p.z.at("width") > p.z.at("height"));
-}
-
-bool badStride(int32_t s, int esize) { return s < 1 || s % esize != 0; }
-
-bool fails(const MemberFn& m, Check k, const Args& a, int esize, bool shapeOk) {
-  switch (k.letter) {
-    case 'C': return m.hasCount && a.count < 1;
-    case 'H': return !shapeOk;
-    case 'Z':
-      if (((m.sizes & kSizeWidth) && a.width < 1) || ((m.sizes & kSizeHeight) && a.height < 1) ||
-          ((m.sizes & kSizeLen) && a.len < 1) || ((m.sizes & kSizeOrder) && a.order < 1))
-        return true;
-      break;
-    case 'O':
-      if (a.count <= 1) return false;
-      break;
-  }
-  const uint8_t strides = k.letter == 'T' ? (kObj | kRow | kElem) : k.letter == 'E' ? (kRow | kElem) : kObj;
-  for (int i = 0; i < m.nop; ++i) {
-    if (!inScope(m, i, k.scope)) continue;
-    const ArgBlk& b = a.op[i];
-    const uint8_t has = m.blk[i].has;
-    switch (k.letter) {
-      case 'N':
-        if (!b.ptr) return true;
-        break;
-      case 'Z':
-        if (((has & kWidth) && b.w < 1) || ((has & kHeight) && b.h < 1)) return true;
-        break;
-      case 'R':
-        if ((has & kRoi) && (b.roi < 0 || b.roi % esize != 0)) return true;
-        break;
-      case 'T': case 'E': case 'O': {
-        const uint8_t f = has & strides;
-        if (((f & kObj) && badStride(b.obj, esize)) || ((f & kRow) && badStride(b.row, esize)) ||
-            ((f & kElem) && badStride(b.elem, esize)))
-          return true;
-      }
-    }
-  }
-  return false;
-}
-
-// The status the checks return, or tarnStatusOk when the call passes them.
-tarnStatus expected(const MemberFn& m, const Args& a, int esize, bool shapeOk) {
-  for (Check k : checksOf(m.checks))
-    if (fails(m, k, a, esize, shapeOk)) return statusOf(k.letter);
-  return tarnStatusOk;
-}
-
-bool isCheckStatus(tarnStatus s) {
-  for (char l : {'N', 'C', 'Z', 'H', 'T', 'R'})
-    if (s == statusOf(l)) return true;
-  return false;
 }
 
 // Bits worth trying in an element: NaNs (quiet, signalling, negative), infinities, the largest

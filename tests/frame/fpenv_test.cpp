@@ -16,7 +16,7 @@
 #include <array>
 #include <cstring>
 
-#include "batches.hpp"
+#include "harness.hpp"
 
 namespace tt {
 namespace {

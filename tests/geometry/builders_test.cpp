@@ -1,9 +1,8 @@
-// Transform builders: the sine and cosine they share against long double, every builder against
-// a model typed from its element table (all 16 elements, operands on guarded pages), and the
-// matrices against what they mean geometrically.
+// Transform builders: the sine and cosine they share against long double, and every builder
+// against a model typed from its element table (all 16 elements, operands on guarded pages).
 #include <functional>
-#include <numbers>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "fixed.hpp"
@@ -32,21 +31,8 @@ double ulpsOff(float got, long double want) {
 
 TEST(GeometryBuilders, SineAndCosineWithinOneUlpAtAnySize) {
   std::mt19937 rng(7);
-  std::vector<float> angles = {0.0f,
-                               -0.0f,
-                               1e-30f,
-                               -1e-40f,
-                               0.78539819f,
-                               0.78539813f,
-                               1.5707964f,
-                               3.1415927f,
-                               -4.712389f,
-                               16367173.0f * 0x1p72f,
-                               0x1.99bc5cp+27f,
-                               1e38f,
-                               -3.4028235e38f,
-                               1e9f,
-                               100.0f};
+  std::vector<float> angles = {0.0f, -0.0f, 1e-30f, -1e-40f, 0.78539819f, 0.78539813f, 1.5707964f, 3.1415927f,
+                               -4.712389f, 16367173.0f * 0x1p72f, 0x1.99bc5cp+27f, 1e38f, -3.4028235e38f, 1e9f, 100.0f};
   for (int i = 0; i < 20000; ++i) {  // every binade from 2^-20 to the largest float
     const uint32_t bits = (uint32_t(107 + rng() % 148) << 23) | (rng() & 0x807FFFFFu);
     float a;
@@ -124,21 +110,15 @@ void upperLeft(const float* r, float* m) {  // a 3x3 block and the identity arou
 }
 
 using Call = std::function<tarnStatus(const std::string& name, const float* k, const float* v, float* d)>;
-using F4 = tarnStatus (*)(float, float, float, float, float*);
-using F6 = tarnStatus (*)(float, float, float, float, float, float, float*);
-using F3 = tarnStatus (*)(float, float, float, float*);
-const Call kFour = [](const std::string& n, const float* k, const float*, float* d) {
-  return exported<F4>(n)(k[0], k[1], k[2], k[3], d);
-};
-const Call kSix = [](const std::string& n, const float* k, const float*, float* d) {
-  return exported<F6>(n)(k[0], k[1], k[2], k[3], k[4], k[5], d);
-};
-const Call kThree = [](const std::string& n, const float* k, const float*, float* d) {
-  return exported<F3>(n)(k[0], k[1], k[2], d);
-};
-const Call kAngle = [](const std::string& n, const float* k, const float*, float* d) {
-  return exported<tarnStatus (*)(float, float*)>(n)(k[0], d);
-};
+template <size_t>
+using Float = float;
+// A builder of N floats by value: k[0] to k[N-1].
+template <size_t N>
+tarnStatus byValue(const std::string& n, const float* k, const float*, float* d) {
+  return [&]<size_t... I>(std::index_sequence<I...>) {
+    return exported<tarnStatus (*)(Float<I>..., float*)>(n)(k[I]..., d);
+  }(std::make_index_sequence<N>{});
+}
 
 struct Builder {
   std::string name;
@@ -155,14 +135,14 @@ std::vector<Builder> builders() {
                                                                                                         d);
                  },
                  [lh](const float* k, float* m) { lookAtModel(k, lh, m); }});
-    b.push_back({"Ortho" + h, kFour, [lh](const float* k, float* m) { orthoModel(k, lh, false, m); }});
-    b.push_back({"OrthoOffCenter" + h, kSix, [lh](const float* k, float* m) { orthoModel(k, lh, true, m); }});
-    b.push_back({"Perspective" + h, kFour, [lh](const float* k, float* m) { perspectiveModel(k, lh, 0, m); }});
-    b.push_back({"PerspectiveOffCenter" + h, kSix, [lh](const float* k, float* m) { perspectiveModel(k, lh, 1, m); }});
-    b.push_back({"PerspectiveFov" + h, kFour, [lh](const float* k, float* m) { perspectiveModel(k, lh, 2, m); }});
+    b.push_back({"Ortho" + h, byValue<4>, [lh](const float* k, float* m) { orthoModel(k, lh, false, m); }});
+    b.push_back({"OrthoOffCenter" + h, byValue<6>, [lh](const float* k, float* m) { orthoModel(k, lh, true, m); }});
+    b.push_back({"Perspective" + h, byValue<4>, [lh](const float* k, float* m) { perspectiveModel(k, lh, 0, m); }});
+    b.push_back({"PerspectiveOffCenter" + h, byValue<6>, [lh](const float* k, float* m) { perspectiveModel(k, lh, 1, m); }});
+    b.push_back({"PerspectiveFov" + h, byValue<4>, [lh](const float* k, float* m) { perspectiveModel(k, lh, 2, m); }});
   }
   for (int axis = 0; axis < 3; ++axis)
-    b.push_back({std::string("Rotation") + "XYZ"[axis], kAngle,
+    b.push_back({std::string("Rotation") + "XYZ"[axis], byValue<1>,
                  [axis](const float* k, float* m) { rotationModel(k[0], axis, m); }});
   b.push_back({"RotationAxis",
                [](const std::string& n, const float* k, const float* v, float* d) {
@@ -177,21 +157,15 @@ std::vector<Builder> builders() {
                                      s * y + (u * x) * z, (u * y) * z - s * x, c + (u * z) * z};
                  upperLeft(r, m);
                }});
-  b.push_back({"RotationYawPitchRoll", kThree, [](const float* k, float* m) {
+  b.push_back({"RotationYawPitchRoll", byValue<3>, [](const float* k, float* m) {
                  const SC y = sinCos(k[0]), p = sinCos(k[1]), r = sinCos(k[2]);
-                 const float u[9] = {r.s * (y.s * p.s) + y.c * r.c,
-                                     p.c * r.s,
-                                     r.s * (p.s * y.c) - y.s * r.c,
-                                     (y.s * p.s) * r.c - y.c * r.s,
-                                     p.c * r.c,
-                                     y.s * r.s + r.c * (p.s * y.c),
-                                     y.s * p.c,
-                                     0.0f - p.s,
-                                     y.c * p.c};
+                 const float u[9] = {r.s * (y.s * p.s) + y.c * r.c, p.c * r.s, r.s * (p.s * y.c) - y.s * r.c,
+                                     (y.s * p.s) * r.c - y.c * r.s, p.c * r.c, y.s * r.s + r.c * (p.s * y.c),
+                                     y.s * p.c, 0.0f - p.s, y.c * p.c};
                  upperLeft(u, m);
                }});
-  b.push_back({"Scaling", kThree, [](const float* k, float* m) { m[0] = k[0], m[5] = k[1], m[10] = k[2], m[15] = 1; }});
-  b.push_back({"Translation", kThree, [](const float* k, float* m) {
+  b.push_back({"Scaling", byValue<3>, [](const float* k, float* m) { m[0] = k[0], m[5] = k[1], m[10] = k[2], m[15] = 1; }});
+  b.push_back({"Translation", byValue<3>, [](const float* k, float* m) {
                  m[0] = m[5] = m[10] = m[15] = 1, m[12] = k[0], m[13] = k[1], m[14] = k[2];
                }});
   return b;
@@ -218,49 +192,6 @@ TEST(GeometryBuilders, EveryElementAsItsTableSays) {
   float m[16];
   tarnRotationX_m4_32f(0.0f, m);
   EXPECT_EQ(bitsOf(m[9]), 0u);  // 0 - s is +0.0
-}
-
-// Row vector v times m, then divided by w.
-void apply(const float* m, const float* v, float* out) { ref::coord(m, v, out, 3, false); }
-void near(const float* got, std::initializer_list<float> want, float tol, const char* what) {
-  int i = 0;
-  for (float w : want) EXPECT_NEAR(got[i++], w, tol) << what << " element " << i - 1;
-}
-
-TEST(GeometryBuilders, MatricesDoWhatTheyAreFor) {
-  const float pi2 = std::numbers::pi_v<float> / 2;
-  float m[16], p[3];
-  const float eye[3] = {1, 2, 3}, at[3] = {4, -2, 3}, up[3] = {0, 0, 1};  // |at - eye| = 5
-  tarnLookAtLH_m4_32f(eye, at, up, m);
-  apply(m, eye, p), near(p, {0, 0, 0}, 1e-6f, "LH eye");
-  apply(m, at, p), near(p, {0, 0, 5}, 4e-6f, "LH at");
-  tarnLookAtRH_m4_32f(eye, at, up, m);
-  apply(m, at, p), near(p, {0, 0, -5}, 4e-6f, "RH at");
-  const float ex[3] = {1, 0, 0}, ey[3] = {0, 1, 0}, ez[3] = {0, 0, 1}, axis[3] = {0, 0, 2};
-  tarnRotationZ_m4_32f(pi2, m), apply(m, ex, p), near(p, {0, 1, 0}, 1e-7f, "RotationZ");
-  tarnRotationX_m4_32f(pi2, m), apply(m, ey, p), near(p, {0, 0, 1}, 1e-7f, "RotationX");
-  tarnRotationY_m4_32f(pi2, m), apply(m, ez, p), near(p, {1, 0, 0}, 1e-7f, "RotationY");
-  tarnRotationAxis_v3m4_32f(axis, pi2, m), apply(m, ex, p), near(p, {0, 1, 0}, 1e-7f, "RotationAxis");
-  tarnRotationYawPitchRoll_m4_32f(0, 0, pi2, m), apply(m, ex, p), near(p, {0, 1, 0}, 1e-7f, "roll");
-  // Near and far planes to depths 0 and 1; right-handed views look down -z.
-  const float n = 0.5f, f = 40.0f, nearL[3] = {0.1f, 0.2f, n}, farL[3] = {3, -1, f}, nearR[3] = {0.1f, 0.2f, -n},
-              farR[3] = {3, -1, -f};
-  auto depths = [&](const char* what, const float* lo, const float* hi) {
-    apply(m, lo, p);
-    EXPECT_NEAR(p[2], 0.0f, 1e-6f) << what;
-    apply(m, hi, p);
-    EXPECT_NEAR(p[2], 1.0f, 1e-6f) << what;
-  };
-  tarnPerspectiveLH_m4_32f(2, 1.5f, n, f, m), depths("PerspectiveLH", nearL, farL);
-  tarnPerspectiveRH_m4_32f(2, 1.5f, n, f, m), depths("PerspectiveRH", nearR, farR);
-  tarnPerspectiveFovLH_m4_32f(1.0f, 1.5f, n, f, m), depths("PerspectiveFovLH", nearL, farL);
-  tarnPerspectiveFovRH_m4_32f(1.0f, 1.5f, n, f, m), depths("PerspectiveFovRH", nearR, farR);
-  tarnPerspectiveOffCenterLH_m4_32f(-1, 2, -1, 1, n, f, m), depths("PerspectiveOffCenterLH", nearL, farL);
-  tarnOrthoLH_m4_32f(4, 3, n, f, m), depths("OrthoLH", nearL, farL);
-  tarnOrthoOffCenterRH_m4_32f(-1, 2, -1, 1, n, f, m), depths("OrthoOffCenterRH", nearR, farR);
-  // The corner (r, t) of an off-centre near plane to the corner (1, 1) of the cube.
-  const float corner[3] = {2, 1, n};
-  tarnPerspectiveOffCenterLH_m4_32f(-1, 2, -1, 1, n, f, m), apply(m, corner, p), near(p, {1, 1, 0}, 1e-6f, "corner");
 }
 
 }  // namespace

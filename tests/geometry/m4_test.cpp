@@ -1,5 +1,5 @@
-// Fixed 4x4 operations: determinant and inverse against models of their stated steps, the
-// absolute limit on the pivot from both sides, the exact identity test, and the moves.
+// Fixed 4x4 operations: determinant, inverse and products against models of their stated steps,
+// the absolute limit on the pivot from both sides, the exact identity test, and the moves.
 #include <algorithm>
 
 #include "fixed.hpp"
@@ -53,9 +53,22 @@ TEST(GeometryM4, DetInvertAndProductsAgainstTheirModels) {
     ASSERT_TRUE(sameFloats(d.p, want, 16)) << trial;
     ASSERT_EQ(tarnTranspose_m4_32f(a.p, d.p), tarnStatusOk);
     for (int i = 0; i < 16; ++i) ASSERT_EQ(bitsOf(d.p[i]), bitsOf(a.p[4 * (i % 4) + i / 4]));
+    // src1 * src2 from the first product on, then 0 to 3 floats past a 16-byte boundary over
+    // either source.
+    ASSERT_EQ(tarnMul_mm4x4_32f(a.p, b.p, d.p), tarnStatusOk);
+    ASSERT_TRUE(sameFloats(d.p, prod, 16)) << trial;
+    alignas(16) float u[2][20];
+    float *x = u[0] + trial % 4, *y = u[1] + trial % 4, *over = trial % 3 ? x : y;
+    std::memcpy(x, a.p, 64), std::memcpy(y, b.p, 64);
+    ASSERT_EQ(tarnMul_mm4x4_32f(x, y, over), tarnStatusOk);
+    ASSERT_TRUE(sameFloats(over, prod, 16)) << trial;
   }
   EXPECT_GT(singular, 20);
   for (const Fixed* f : {&a, &b, &d, &det}) EXPECT_TRUE(f->leadIntact());
+  // The one check a fixed-size member makes.
+  EXPECT_EQ(tarnMul_mm4x4_32f(nullptr, b.p, d.p), tarnStatusNullPointer);
+  EXPECT_EQ(tarnMul_mm4x4_32f(a.p, nullptr, d.p), tarnStatusNullPointer);
+  EXPECT_EQ(tarnMul_mm4x4_32f(a.p, b.p, nullptr), tarnStatusNullPointer);
 }
 
 // The limit is absolute, 1.4305115e-6 (bits 0x35C00000): a pivot exactly on it passes, one ulp

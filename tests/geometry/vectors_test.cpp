@@ -16,19 +16,23 @@ using F = const float*;
 struct Case {
   const char* family;
   bool aliasSafe;  // dst may be src1
-  // Calls the export of family and size n with sources s, scalars k and dst d.
-  std::function<tarnStatus(const std::string& name, int n, Srcs s, const float* k, float* d)> call;
+  int srcs;        // source vectors (the 4-vector cross product takes one more); a float is k[0]
   std::function<int(int n, Srcs s, const float* k, float* d)> model;  // returns the floats written
+  bool twoFloats = false;  // k[0] and k[1], which the shared table would make equal
 };
 
-tarnStatus two(const std::string& name, int, Srcs s, const float*, float* d) {
-  return exported<tarnStatus (*)(F, F, float*)>(name)(s[0], s[1], d);
-}
-tarnStatus one(const std::string& name, int, Srcs s, const float*, float* d) {
-  return exported<tarnStatus (*)(F, float*)>(name)(s[0], d);
-}
-tarnStatus four(const std::string& name, int, Srcs s, const float* k, float* d) {
-  return exported<tarnStatus (*)(F, F, F, F, float, float*)>(name)(s[0], s[1], s[2], s[3], k[0], d);
+// The export of family and size n through the shared fixed-size table: sources, dst, scalar.
+tarnStatus call(const Case& c, const std::string& name, int n, Srcs s, const float* k, float* d) {
+  if (c.twoFloats) return exported<tarnStatus (*)(F, F, F, float, float, float*)>(name)(s[0], s[1], s[2], k[0], k[1], d);
+  FixedArgs a;
+  const int srcs = c.srcs + (n == 4 && std::string(c.family) == "CrossProduct");
+  for (int i = 0; i < srcs; ++i) a.floats[i] = s[i];
+  a.floats[srcs] = d;
+  a.value = k[0];
+  for (const FixedFn& f : fixedCalls())
+    if (name == f.name) return f.call(a);
+  ADD_FAILURE() << "no export " << name;
+  return -1;
 }
 int each(int n, float* d, const std::function<float(int)>& f) {
   float t[4];  // every element before the first store, as dst may be src1
@@ -58,56 +62,44 @@ int cross(int n, Srcs s, const float*, float* d) {
 }
 
 const Case kCases[] = {
-    {"Add", true, two,
+    {"Add", true, 2,
      [](int n, Srcs s, const float*, float* d) { return each(n, d, [&](int i) { return s[0][i] + s[1][i]; }); }},
-    {"Sub", true, two,
+    {"Sub", true, 2,
      [](int n, Srcs s, const float*, float* d) { return each(n, d, [&](int i) { return s[0][i] - s[1][i]; }); }},
-    {"Min", true, two,
+    {"Min", true, 2,
      [](int n, Srcs s, const float*, float* d) {
        return each(n, d, [&](int i) { return s[0][i] < s[1][i] ? s[0][i] : s[1][i]; });
      }},
-    {"Max", true, two,
+    {"Max", true, 2,
      [](int n, Srcs s, const float*, float* d) {
        return each(n, d, [&](int i) { return s[0][i] > s[1][i] ? s[0][i] : s[1][i]; });
      }},
-    {"MulC", true,
-     [](const std::string& name, int, Srcs s, const float* k, float* d) {
-       return exported<tarnStatus (*)(F, float, float*)>(name)(s[0], k[0], d);
-     },
+    {"MulC", true, 1,
      [](int n, Srcs s, const float* k, float* d) { return each(n, d, [&](int i) { return s[0][i] * k[0]; }); }},
-    {"InterpolationLinear", true,
-     [](const std::string& name, int, Srcs s, const float* k, float* d) {
-       return exported<tarnStatus (*)(F, F, float, float*)>(name)(s[0], s[1], k[0], d);
-     },
+    {"InterpolationLinear", true, 2,
      [](int n, Srcs s, const float* k, float* d) {
        return each(n, d, [&](int i) { return s[0][i] + (s[1][i] - s[0][i]) * k[0]; });
      }},
-    {"BaryCentric", true,
-     [](const std::string& name, int, Srcs s, const float* k, float* d) {
-       return exported<tarnStatus (*)(F, F, F, float, float, float*)>(name)(s[0], s[1], s[2], k[0], k[1], d);
-     },
+    {"BaryCentric", true, 3,
      [](int n, Srcs s, const float* k, float* d) {
        return each(n, d, [&](int i) { return ((s[1][i] - s[0][i]) * k[0] + s[0][i]) + (s[2][i] - s[0][i]) * k[1]; });
-     }},
-    {"Hermite", true, four,
+     },
+     true},
+    {"Hermite", true, 4,
      [](int n, Srcs s, const float* k, float* d) { return ref::hermite(s[0], s[1], s[2], s[3], k[0], d, n), n; }},
-    {"InterpolationCatmullRom", true, four, catmullRom},
-    {"DotProduct", false, two, [](int n, Srcs s, const float*, float* d) { return *d = ref::dot(s[0], s[1], n), 1; }},
-    {"LenSqr", false, one, [](int n, Srcs s, const float*, float* d) { return *d = ref::dot(s[0], s[0], n), 1; }},
-    {"Len", false, one,
+    {"InterpolationCatmullRom", true, 4, catmullRom},
+    {"DotProduct", false, 2, [](int n, Srcs s, const float*, float* d) { return *d = ref::dot(s[0], s[1], n), 1; }},
+    {"LenSqr", false, 1, [](int n, Srcs s, const float*, float* d) { return *d = ref::dot(s[0], s[0], n), 1; }},
+    {"Len", false, 1,
      [](int n, Srcs s, const float*, float* d) { return *d = std::sqrt(ref::dot(s[0], s[0], n)), 1; }},
-    {"Normalize", true, one,
+    {"Normalize", true, 1,
      [](int n, Srcs s, const float*, float* d) {
        const float* v = s[0];  // the 4-vector adds x last
        const float len =
            std::sqrt(n == 4 ? ((v[1] * v[1] + v[2] * v[2]) + v[3] * v[3]) + v[0] * v[0] : ref::dot(v, v, n));
        return each(n, d, [&](int i) { return v[i] / len; });
      }},
-    {"CrossProduct", true,
-     [](const std::string& name, int n, Srcs s, const float* k, float* d) {
-       return n < 4 ? two(name, n, s, k, d) : exported<tarnStatus (*)(F, F, F, float*)>(name)(s[0], s[1], s[2], d);
-     },
-     cross},
+    {"CrossProduct", true, 2, cross},
 };
 
 TEST(GeometryVectors, EveryMemberAgainstItsModel) {
@@ -127,7 +119,7 @@ TEST(GeometryVectors, EveryMemberAgainstItsModel) {
         const int outLen = c.model(n, model, k, want);
         float* out = alias ? src[0].p : outLen == 1 ? scalar.p : dst.p;
         float* const s[4] = {src[0].p, src[1].p, src[2].p, src[3].p};
-        ASSERT_EQ(c.call(name, n, s, k, out), tarnStatusOk);
+        ASSERT_EQ(call(c, name, n, s, k, out), tarnStatusOk);
         ASSERT_TRUE(sameFloats(out, want, outLen)) << name << (alias ? " dst over src1" : "") << " trial " << trial;
         for (int i = alias ? 1 : 0; i < 4; ++i)
           ASSERT_EQ(std::memcmp(src[i].p, in[i], sizeof(float) * size_t(n)), 0) << name;

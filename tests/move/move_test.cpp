@@ -4,7 +4,6 @@
 // show.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstring>
 #include <utility>
 #include <vector>
@@ -37,14 +36,6 @@ TEST(Move, EveryMemberShapeAndPlacementMatchesTheModel) {
             }
     }
   EXPECT_GT(calls, 20000);
-}
-
-// Overlapping operands: elements move one after the other in ascending order, so a copy one
-// element forward repeats the first element through the row.
-TEST(Move, CopyOverlapFollowsTheElementOrder) {
-  float buf[6] = {1, 2, 3, 4, 5, 6};
-  ASSERT_EQ(tarnCopy_va_32f_SS(buf, 20, 4, buf + 1, 20, 4, 5, 1), tarnStatusOk);
-  for (float v : buf) EXPECT_EQ(v, 1.0f);
 }
 
 // Copy with the destination laid over the source at element shifts: alike, overlapping by an
@@ -84,16 +75,6 @@ TEST(Move, CopyOverlapEveryPairFollowsTheElementOrder) {
           EXPECT_TRUE(buf == want) << m->name << " " << w << " shift " << shift << " gap " << gap;
         }
     }
-}
-
-// By hand, not through the model: a stored 2 x 3 matrix read transposed gives 3 rows of 2.
-TEST(Move, ExtractTransposedReadGivesHeightRowsOfWidth) {
-  const float stored[2][3] = {{1, 2, 3}, {4, 5, 6}};
-  float out[7];
-  std::fill(std::begin(out), std::end(out), -1.0f);
-  ASSERT_EQ(tarnExtract_t_32f(&stored[0][0], 12, 4, out, 2, 3), tarnStatusOk);
-  const float want[7] = {1, 4, 2, 5, 3, 6, -1};
-  EXPECT_EQ(std::memcmp(out, want, sizeof out), 0);
 }
 
 }  // namespace

@@ -1,17 +1,14 @@
 // Mul with two matrices: every member over square and oblong shapes in every placement, each
-// element against the model of the order its worker takes; the thread counts, the thresholds and
-// the members whose size tests depart.
+// element against the model of the order its worker takes; the members whose size tests depart;
+// the kernels over their own sources.
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstring>
-#include <sstream>
 #include <string>
-#include <tuple>
 
 #include "harness.hpp"
 #include "ref/mul_ref.hpp"
-#include "regions.hpp"
 
 namespace tt {
 namespace {
@@ -71,15 +68,14 @@ MulOrder orderOf(const Product& p, bool contig) {
   return MulOrder::Tile;
 }
 
-// Runs one product and compares every dst element with the model; "" when all is well.
+// Runs one product and compares every dst element with the model; "" when all is well. With
+// `passed` the call gets those sizes (src1Width, src1Height, src2Width, src2Height) instead of the
+// stored ones, and a kernel must run.
 std::string checkProduct(const Product& p, int count, const Style& st, int threads, unsigned seed,
-                         std::vector<uint64_t>* bits = nullptr) {
+                         const int* passed = nullptr) {
   const int R = p.z.rows, K = p.z.inner, C = p.z.cols;
-  CallFixture fx(*p.m, count, st, [&](int b) -> Extent {
-    return b == 0 ? Extent{p.h1, p.w1} : b == 1 ? Extent{p.h2, p.w2} : Extent{R, C};
-  });
-  std::mt19937 rng(seed);
-  fx.fillSources(rng, false);
+  auto placedFx = placed(*p.m, {{"src1Width", p.w1}, {"src1Height", p.h1}, {"src2Width", p.w2}, {"src2Height", p.h2}}, count, st, seed);
+  CallFixture& fx = *placedFx;
   // Row 0 of src1 as seen is -0.0 and column 0 of src2 positive: element (0,0) sums only -0.0,
   // which a kernel keeps and the general paths, starting from +0.0, turn into +0.0.
   for (int o = 0; o < (fx.isArray(0) ? count : 1); ++o)
@@ -89,36 +85,21 @@ std::string checkProduct(const Product& p, int count, const Style& st, int threa
       const int r = p.l2 == 't' ? 0 : k, c = p.l2 == 't' ? k : 0;
       fx.block(1).set(o, r, c, std::fabs(fx.block(1).get(o, r, c)));
     }
-  bool contig = true;
-  for (int b = 0; b < 3; ++b)
-    if ((p.m->blk[b].has & kElem) && fx.args.op[b].elem != p.nm.esize) contig = false;
-  const MulOrder order = orderOf(p, contig);
+  if (passed) fx.args.op[0].w = passed[0], fx.args.op[0].h = passed[1], fx.args.op[1].w = passed[2], fx.args.op[1].h = passed[3];
+  const MulOrder order = passed ? MulOrder::Kernel : orderOf(p, fx.contiguous());
   const tarnStatus status = fx.run(threads);
-
-  std::ostringstream why;
-  if (status != tarnStatusOk) why << "status " << status << "; ";
   auto a = [&](int o, int i, int k) { return p.l1 == 't' ? fx.before(0).get(o, k, i) : fx.before(0).get(o, i, k); };
   auto b = [&](int o, int k, int j) { return p.l2 == 't' ? fx.before(1).get(o, j, k) : fx.before(1).get(o, k, j); };
-  int bad = 0;
-  for (int o = 0; o < (fx.isArray(2) ? count : 1); ++o)
-    for (int i = 0; i < R; ++i)
-      for (int j = 0; j < C; ++j) {
-        const int o1 = fx.isArray(0) ? o : 0, o2 = fx.isArray(1) ? o : 0;
-        const double want = p.nm.esize == 4
-            ? double(mulElement<float>(order, p.z, i, [&](int k) { return float(a(o1, i, k)) * float(b(o2, k, j)); }))
-            : mulElement<double>(order, p.z, i, [&](int k) { return a(o1, i, k) * b(o2, k, j); });
-        const uint64_t got = fx.block(2).bits(o, i, j);
-        if (bits) bits->push_back(got);
-        if (got != bitsOf(want, p.nm.esize) && bad++ < 2)
-          why << "object " << o << " (" << i << "," << j << ") want " << want << " got "
-              << valueOf(got, p.nm.esize) << "; ";
-      }
-  why << fx.untouched();
-  const std::string f = why.str();
-  if (f.empty()) return f;
+  std::string why = fx.compare(2, [&](int o, int i, int j) {
+    const int o1 = fx.isArray(0) ? o : 0, o2 = fx.isArray(1) ? o : 0;
+    return p.nm.esize == 4 ? double(mulElement<float>(order, p.z, i, [&](int k) { return float(a(o1, i, k)) * float(b(o2, k, j)); }))
+                           : mulElement<double>(order, p.z, i, [&](int k) { return a(o1, i, k) * b(o2, k, j); });
+  });
+  if (status != tarnStatusOk) why += "status " + std::to_string(status);
+  if (why.empty()) return why;
   return std::string(p.m->name) + " R" + std::to_string(R) + " K" + std::to_string(K) + " C" + std::to_string(C) +
          " count " + std::to_string(count) + " " + st.name + " threads " + std::to_string(threads) +
-         " order " + std::to_string(int(order)) + ": " + f;
+         " order " + std::to_string(int(order)) + ": " + why;
 }
 
 struct Rkc {
@@ -154,56 +135,6 @@ TEST(Mul, EveryMemberShapeAndPlacementFollowsItsOrder) {
   EXPECT_EQ(products, 88);
 }
 
-// Past the thresholds every thread count gives the bits of one thread, in a kernel and on the
-// general paths.
-TEST(Mul, ThreadCountsGiveIdenticalBits) {
-  for (const MemberFn* m : matrixProducts()) {
-    const Name nm = parseName(m->name);
-    if (nm.pattern.find('a') == std::string::npos) continue;
-    // Counts past every path's threshold: 27*count >= 36865 for 3x3, 107*count >= 18433 for
-    // a 5x7 times 7x6 product.
-    for (const auto& [shape, style_, count] : {std::tuple{Rkc{3, 3, 3}, "packed", 1400}, std::tuple{Rkc{5, 7, 6}, "strided", 180}}) {
-      const Product p = productOf(*m, shape.R, shape.K, shape.C);
-      std::vector<uint64_t> one;
-      EXPECT_EQ(checkProduct(p, count, style(style_), 1, 9, &one), "");
-      for (int threads : {2, 3, 4}) {
-        std::vector<uint64_t> many;
-        EXPECT_EQ(checkProduct(p, count, style(style_), threads, 9, &many), "");
-        EXPECT_TRUE(many == one) << m->name << " threads " << threads;
-      }
-    }
-  }
-}
-
-// E counts the elements touched: each source once if single, count times if an array, and dst
-// count times. A region opens from E = 36865 (LayoutS contiguous), 18433 (LayoutS strided and
-// LayoutL), 9217 (LayoutP), for both types. With 1 by 1 matrices and one single source E = 1 +
-// 2*count lands on every odd value; two arrays of 1 by 1 times 1 by 2 give E = 5*count.
-TEST(Mul, RegionFromTheThresholdOfThePathOn) {
-  int checked = 0;
-  for (const MemberFn* m : matrixProducts()) {
-    const Name nm = parseName(m->name);
-    if (nm.pattern.find('a') == std::string::npos) continue;
-    const bool both = nm.pattern.size() == 4;  // mama, mata, tama, tata
-    for (bool contig : {true, false}) {
-      if (nm.layout == 'P' && !contig) continue;
-      const int32_t thr = nm.layout == 'P' ? 9217 : nm.layout == 'S' && contig ? 36865 : 18433;
-      const Style& st = style(contig ? "packed" : "strided");
-      // The count whose E is just below the threshold, and the first whose E reaches it.
-      const Product p = productOf(*m, 1, 1, both ? 2 : 1);
-      const int per = both ? 5 : 2, fixed = both ? 0 : 1;
-      const int below = (thr - 1 - fixed) / per, at = (thr - fixed + per - 1) / per;
-      if (!both) ASSERT_EQ(fixed + per * at, thr);
-      const int regionsBelow = regionsOpenedBy([&] { checkProduct(p, below, st, 2, 1); });
-      const int regionsAt = regionsOpenedBy([&] { checkProduct(p, at, st, 2, 1); });
-      EXPECT_EQ(regionsBelow, 0) << m->name << (contig ? " contiguous" : " strided");
-      EXPECT_EQ(regionsAt, 1) << m->name << (contig ? " contiguous" : " strided");
-      ++checked;
-    }
-  }
-  EXPECT_EQ(checked, 120);
-}
-
 // The float mat in contiguous LayoutS compares src2Height with 3 for order 4: a src2 4 wide and
 // 3 high enters the 4x4 kernel, which reads a fourth row of src2 and writes a fourth column of
 // dst. The float mm and double tt in LayoutP compare the OR of the four sizes with 3: a 1x2
@@ -221,27 +152,8 @@ TEST(Mul, DepartingSizeTestsAreKept) {
       {"tarnMul_mm_32f_P", 3, 3, 3, 3, 1, 1, 3},
   };
   for (const Case& c : cases) {
-    Product p = productOf(member(c.name), c.R, c.K, c.C);
-    CallFixture fx(*p.m, 2, style("padded"), [&](int b) -> Extent {
-      return b == 0 ? Extent{p.h1, p.w1} : b == 1 ? Extent{p.h2, p.w2} : Extent{c.R, c.C};
-    });
-    std::mt19937 rng(4);
-    fx.fillSources(rng, false);
-    fx.args.op[0].w = c.w1, fx.args.op[0].h = c.h1, fx.args.op[1].w = c.w2, fx.args.op[1].h = c.h2;
-    ASSERT_EQ(fx.run(1), tarnStatusOk) << c.name;
-    for (int o = 0; o < (fx.isArray(2) ? 2 : 1); ++o)
-      for (int i = 0; i < c.R; ++i)
-        for (int j = 0; j < c.C; ++j) {
-          auto prod = [&](int k) -> double {
-            const double a = p.l1 == 't' ? fx.before(0).get(fx.isArray(0) ? o : 0, k, i) : fx.before(0).get(fx.isArray(0) ? o : 0, i, k);
-            const double b = p.l2 == 't' ? fx.before(1).get(0, j, k) : fx.before(1).get(0, k, j);
-            return p.nm.esize == 4 ? double(float(a) * float(b)) : a * b;
-          };
-          const double want = p.nm.esize == 4
-              ? double(mulElement<float>(MulOrder::Kernel, p.z, i, [&](int k) { return float(prod(k)); }))
-              : mulElement<double>(MulOrder::Kernel, p.z, i, prod);
-          EXPECT_EQ(fx.block(2).bits(o, i, j), bitsOf(want, p.nm.esize)) << c.name << " " << i << "," << j;
-        }
+    const int passed[4] = {c.w1, c.h1, c.w2, c.h2};
+    EXPECT_EQ(checkProduct(productOf(member(c.name), c.R, c.K, c.C), 2, style("padded"), 1, 4, passed), "");
   }
 }
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cmath>
-#include <cstdint>
 #include <cstring>
 
 namespace tt::ref {
@@ -71,7 +70,8 @@ inline int invert(const float* src, float* det, float* dst) {
 
 // ---- Points ---------------------------------------------------------------------------------
 // Element i of x*m[0] + ... by AffineTransform's sums (n = 2, 3, 4).
-inline void affine(const float* m, const float* v, float* d, int n) {
+// `array`: the array form, where it adds in another order (coord only).
+inline void affine(const float* m, const float* v, float* d, int n, bool = false) {
   for (int i = 0; i < 4; ++i) {
     if (n == 4)
       d[i] = ((v[0] * m[i] + v[1] * m[4 + i]) + v[2] * m[8 + i]) + v[3] * m[12 + i];
@@ -94,7 +94,7 @@ inline void coord(const float* m, const float* v, float* d, int n, bool array) {
   }
   for (int i = 0; i < n; ++i) d[i] = t[i] / t[3];
 }
-inline void normal(const float* m, const float* v, float* d, int n) {
+inline void normal(const float* m, const float* v, float* d, int n, bool = false) {
   float t[3];
   for (int i = 0; i < n; ++i)
     t[i] = n == 2 ? m[i] * v[0] + m[4 + i] * v[1] : (m[i] * v[0] + m[4 + i] * v[1]) + m[8 + i] * v[2];

@@ -4,7 +4,6 @@
 // lanes. Addresses are 64-bit integers.
 #pragma once
 
-#include <cmath>
 #include <cstdint>
 #include <vector>
 

@@ -1,6 +1,5 @@
 #include "members.hpp"
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 

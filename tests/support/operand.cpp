@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
@@ -70,6 +69,7 @@ Operand::Operand(char layout, int esize, int rows, int cols, int count, bool arr
   auto idx = [&](int n, int r, int c) { return (size_t(n) * rows + r) * cols + c; };
   used_ = 64;  // leading canaries
   const bool soa = st.soa && array && count > 1;
+  const size_t skew = st.misalign * es + size_t(st.misalignBytes);
   if (layout == 'P') {
     // One stream per stored element; objStride between the objects of a stream.
     const size_t obj = soa ? elems * es : es * st.elemGap + (st.objPadBytes / esize) * es;
@@ -78,8 +78,8 @@ Operand::Operand(char layout, int esize, int rows, int cols, int count, bool arr
     size_t soaBase = soa ? place(elems * es * count, 64) : 0;
     for (size_t e0 = 0; e0 < elems; ++e0) {
       const size_t e = elems - 1 - e0;  // streams in reverse order of their table entries
-      const size_t start = soa ? soaBase + e * es : place((count - 1) * obj + es, st.alignTo) + st.misalign * es;
-      if (!soa) used_ += st.misalign * es;
+      const size_t start = soa ? soaBase + e * es : place((count - 1) * obj + es, st.alignTo) + skew;
+      if (!soa) used_ += skew;
       for (int n = 0; n < count; ++n) off_[size_t(n) * elems + e] = start + n * obj;
     }
     blk_.obj = int32_t(obj);
@@ -95,7 +95,7 @@ Operand::Operand(char layout, int esize, int rows, int cols, int count, bool arr
       // call meets aligned and unaligned objects.
       for (int n0 = 0; n0 < count; ++n0) {
         const int n = count - 1 - n0;
-        const size_t start = place(extent + es, st.alignTo ? st.alignTo : 16) + (st.misalign + (st.alignTo && n % 2)) * es;
+        const size_t start = place(extent + es, st.alignTo ? st.alignTo : 16) + skew + (st.alignTo && n % 2) * es;
         used_ += es;
         for (int r = 0; r < rows; ++r)
           for (int c = 0; c < cols; ++c) off_[idx(n, r, c)] = start + r * row + c * elem;
@@ -103,8 +103,8 @@ Operand::Operand(char layout, int esize, int rows, int cols, int count, bool arr
       table_.resize(count);
       blk_.roi = int32_t(2 * es);
     } else {
-      const size_t start = place((count - 1) * obj + extent, st.alignTo ? st.alignTo : 64) + st.misalign * es;
-      used_ += st.misalign * es;
+      const size_t start = place((count - 1) * obj + extent, st.alignTo ? st.alignTo : 64) + skew;
+      used_ += skew;
       for (int n = 0; n < count; ++n)
         for (int r = 0; r < rows; ++r)
           for (int c = 0; c < cols; ++c) off_[idx(n, r, c)] = start + n * obj + r * row + c * elem;

@@ -22,6 +22,7 @@ struct Style {
   int alignTo = 0;      // round row and object strides and bases up to this many bytes
   bool soa = false;     // objects interleaved element by element (arrays only)
   bool guard = false;   // the last element ends right before an inaccessible page
+  int misalignBytes = 0;  // bytes more than `misalign`: elements off their own alignment
 };
 
 // Bytes an operand lives in. Guarded storage ends at a page the process may not touch, so a

@@ -1,53 +1,11 @@
 #include "solve.hpp"
 
-#include <dlfcn.h>
+#include "scratch.hpp"
 
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <mutex>
 #include <sstream>
-
-namespace {
-
-// The runtime's allocator, watched: a block comes filled with canaries and a canary tail, and
-// what it holds when released is kept.
-constexpr size_t kTail = 64;
-struct Scratch {
-  void* p;
-  size_t bytes;
-  std::vector<uint8_t> content;
-  bool released = false;
-};
-std::mutex lock;
-bool recording = false;
-std::vector<Scratch> taken;
-
-}  // namespace
-
-extern "C" void* kmpc_malloc(size_t size) {
-  using Fn = void* (*)(size_t);
-  static const Fn next = reinterpret_cast<Fn>(dlsym(RTLD_NEXT, "kmpc_malloc"));
-  void* p = next(size + kTail);
-  std::memset(p, tt::kFill, size + kTail);
-  const std::lock_guard<std::mutex> g(lock);
-  if (recording) taken.push_back({p, size, {}});
-  return p;
-}
-
-extern "C" void kmpc_free(void* p) {
-  using Fn = void (*)(void*);
-  static const Fn next = reinterpret_cast<Fn>(dlsym(RTLD_NEXT, "kmpc_free"));
-  {
-    const std::lock_guard<std::mutex> g(lock);
-    for (Scratch& s : taken)
-      if (s.p == p && !s.released) {
-        s.content.assign(static_cast<const uint8_t*>(p), static_cast<const uint8_t*>(p) + s.bytes + kTail);
-        s.released = true;
-      }
-  }
-  next(p);
-}
 
 namespace tt {
 
@@ -75,7 +33,7 @@ namespace {
 
 template <class T>
 std::string check(const SolveCall& call, CallFixture& fx, tarnStatus got, const SolveModel<T>& model,
-                  const std::vector<Scratch>& scratch) {
+                  const std::vector<ScratchBlock>& scratch) {
   const MemberFn& m = *call.m;
   const int count = m.hasCount ? fx.count() : 1, es = fx.esize();
   const bool region = call.parallel && call.threads >= 2 && count >= call.threads;
@@ -189,7 +147,7 @@ std::string check(const SolveCall& call, CallFixture& fx, tarnStatus got, const 
   }
   // A region's work space: one block of a part per thread, each thread in its own part.
   if (scratch.size() != size_t(region && hasBuffer)) why << scratch.size() << " scratch blocks taken; ";
-  for (const Scratch& s : scratch) {
+  for (const ScratchBlock& s : scratch) {
     const size_t per = parts.empty() ? 0 : parts[0].size() * sizeof(T);
     if (!s.released || s.bytes != per * size_t(call.threads)) why << "scratch of " << s.bytes << " bytes; ";
     if (std::any_of(s.content.begin() + std::ptrdiff_t(s.bytes), s.content.end(), [](uint8_t v) { return v != kFill; }))
@@ -214,18 +172,8 @@ std::string runSolve(const SolveCall& call, const SolveModel<float>& m32, const 
   std::mt19937 rng(call.seed);
   if (call.fill) call.fill(fx, rng);
   else fx.fillSources(rng, call.specials);
-  {
-    const std::lock_guard<std::mutex> g(lock);
-    taken.clear();
-    recording = true;
-  }
-  const tarnStatus got = fx.run(call.threads);
-  std::vector<Scratch> scratch;
-  {
-    const std::lock_guard<std::mutex> g(lock);
-    recording = false;
-    scratch.swap(taken);
-  }
+  tarnStatus got = 0;
+  const std::vector<ScratchBlock> scratch = scratchDuring([&] { got = fx.run(call.threads); });
   std::string why =
       fx.esize() == 4 ? check<float>(call, fx, got, m32, scratch) : check<double>(call, fx, got, m64, scratch);
   if (call.inspect) why += call.inspect(fx);
