@@ -85,13 +85,8 @@ void generalLanes(unsigned seed) {
 }
 
 TEST(GeneralEigenLanes, TheBitsOfTheOneMatrixIteration) {
-  generalLanes<float, 3>(1);
-  generalLanes<float, 4>(2);
-  generalLanes<float, 5>(3);
-  generalLanes<float, 6>(4);
-  generalLanes<double, 3>(5);
-  generalLanes<double, 4>(6);
-  generalLanes<double, 6>(7);
+  (generalLanes<float, 3>(1), generalLanes<float, 4>(2), generalLanes<float, 5>(3), generalLanes<float, 6>(4));
+  (generalLanes<double, 3>(5), generalLanes<double, 4>(6), generalLanes<double, 6>(7));
 }
 
 // The first column of the shifted product for a sweep from M = L = 1 on a 3 by 3 block: at
@@ -206,14 +201,8 @@ void symLanes() {
 }
 
 TEST(EigenSymLanes, EveryLaneMatchesThePlainPath) {
-  symLanes<float, 3>();
-  symLanes<float, 4>();
-  symLanes<float, 5>();
-  symLanes<float, 6>();
-  symLanes<double, 3>();
-  symLanes<double, 4>();
-  symLanes<double, 5>();
-  symLanes<double, 6>();
+  (symLanes<float, 3>(), symLanes<float, 4>(), symLanes<float, 5>(), symLanes<float, 6>());
+  (symLanes<double, 3>(), symLanes<double, 4>(), symLanes<double, 5>(), symLanes<double, 6>());
 }
 
 // Orders 3 to 6 with vectors, in storage of their own size, leave values and vectors (and what
@@ -240,10 +229,7 @@ void fixedVectors() {
 
 template <class Pr>
 void fixedVectorsAllOrders() {
-  fixedVectors<Pr, 3>();
-  fixedVectors<Pr, 4>();
-  fixedVectors<Pr, 5>();
-  fixedVectors<Pr, 6>();
+  (fixedVectors<Pr, 3>(), fixedVectors<Pr, 4>(), fixedVectors<Pr, 5>(), fixedVectors<Pr, 6>());
 }
 
 TEST(EigenSymVectors, FixedOrdersMatchThePlainPath) {

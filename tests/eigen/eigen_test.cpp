@@ -9,12 +9,14 @@
 #include <algorithm>
 #include <cmath>
 #include <complex>
+#include <numeric>
 #include <random>
 #include <string>
 #include <vector>
 
 #include "batches.hpp"
 #include "regions.hpp"
+#include "scratch.hpp"
 
 namespace tt {
 namespace {
@@ -22,8 +24,8 @@ namespace {
 using Mat = std::vector<double>;  // row-major, every value exact in the element type
 using Cx = std::complex<double>;
 const std::vector<std::string> kSym = {"EigenValuesSym", "EigenValuesVectorsSym"},
-                               kGeneral = {"EigenValues", "EigenValuesVectorsRight", "EigenValuesVectorsLeft",
-                                           "EigenValuesVectors"};
+                               kGeneral = {"EigenValues", "EigenValuesVectorsRight", "EigenValuesVectorsLeft", "EigenValuesVectors"},
+                               kAll = {kSym[0], kSym[1], kGeneral[0], kGeneral[1], kGeneral[2], kGeneral[3]};
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 bool isSym(const std::string& family) { return family.ends_with("Sym"); }
@@ -40,8 +42,7 @@ struct Out {
   tarnStatus status = 0;
   int n = 0, esize = 4;
   std::vector<std::vector<uint64_t>> vals, vecs;
-  std::string fault;        // a source or a byte outside the results changed
-  bool scratchKept = true;  // the caller's scratch holds what it held
+  std::string fault;  // a source or a byte outside the results changed
   double val(size_t k, int i) const { return valueOf(vals[k][size_t(i)], esize); }
   double vec(size_t k, int r, int c, int side = 0) const { return valueOf(vecs[k][size_t((side * n + r) * n + c)], esize); }
 };
@@ -60,7 +61,6 @@ Out run(const MemberFn& m, int n, const std::vector<Mat>& mats, const Style& st 
   fx.args.order = n;
   fx.args.count = count;
   Out o{fx.run(threads), n, nm.esize, {}, {}, fx.untouched()};
-  for (int e = 0; e < scratchLen; ++e) o.scratchKept &= fx.block(scratch).bits(0, 0, e) == fx.before(scratch).bits(0, 0, e);
   for (int k = 0; k < objs; ++k) {
     o.vals.emplace_back();
     o.vecs.emplace_back();
@@ -150,9 +150,7 @@ Mat separated(std::mt19937& rng, int n, int esize, std::vector<Cx>* spectrum = n
 // the single members give those bits in every placement.
 TEST(Eigen, EveryLayoutPlacementAndSingleMatrixGivesTheSameBits) {
   std::mt19937 rng(11);
-  std::vector<std::string> families = kSym;
-  families.insert(families.end(), kGeneral.begin(), kGeneral.end());
-  for (const std::string& fam : families)
+  for (const std::string& fam : kAll)
     for (int esize : {4, 8})
       for (int n = 1; n <= 8; ++n) {
         const std::string at = fam + " order " + std::to_string(n) + (esize == 4 ? " 32f " : " 64f ");
@@ -190,9 +188,7 @@ TEST(Eigen, EveryLayoutPlacementAndSingleMatrixGivesTheSameBits) {
 // lanes, in the last one, in several slices) each slice stops at its first, behind which nothing
 // is written, and the call returns the failure.
 TEST(Eigen, SlicesOnOneToThreeThreadsStopAtTheirFirstFailure) {
-  std::vector<std::string> families = kSym;
-  families.insert(families.end(), kGeneral.begin(), kGeneral.end());
-  for (const std::string& fam : families)
+  for (const std::string& fam : kAll)
     for (const MemberFn* m : membersOf(fam)) {
       if (parseName(m->name).pattern != "ma") continue;
       const bool sym = isSym(fam);
@@ -237,8 +233,15 @@ TEST(Eigen, RegionsFromTheLimitOn) {
                              isSym(c.family) ? Fill::Symmetric : Fill::Random};
           const auto fx = makeBatch(row, style(sn), 3);
           const int scratch = isSym(c.family) ? 1 : m->nop - 1;
-          EXPECT_EQ(regionsOpenedBy([&] { EXPECT_EQ(fx->run(2), 0) << m->name; }), past ? 1 : 0)
+          std::vector<ScratchBlock> blocks;
+          EXPECT_EQ(regionsOpenedBy([&] { blocks = scratchDuring([&] { EXPECT_EQ(fx->run(2), 0) << m->name; }); }), past ? 1 : 0)
               << m->name << " " << sn << " count " << row.count;
+          // Two threads' work space: a working matrix each, or what the general vector families ask for.
+          const size_t per = size_t(isSym(c.family) ? row.n * row.n : row.n * (3 * row.n + 5)) * size_t(nm.esize);
+          ASSERT_EQ(blocks.size(), past ? 1u : 0u) << m->name;
+          EXPECT_TRUE(!past || (blocks[0].bytes == 2 * per && blocks[0].released &&
+                                std::count(blocks[0].content.begin() + long(per) * 2, blocks[0].content.end(), kFill) == long(kScratchTail)))
+              << m->name << " scratch of " << blocks[0].bytes;
           for (int e = 0; past && e < row.n * (3 * row.n + 5); ++e)
             ASSERT_EQ(fx->block(scratch).bits(0, 0, e), fx->before(scratch).bits(0, 0, e)) << m->name << " scratch";
         }
@@ -324,6 +327,8 @@ struct Typed {
 };
 
 Mat itself(double) { return {}; }
+// diag(2, 3, 4, 5) with (1, 0) = b and below it in column 0 x1, x2, symmetric.
+Mat column0(double b, double x1, double x2) { return {2, b, x1, x2, b, 3, 0, 0, x1, 0, 4, 0, x2, 0, 0, 5}; }
 
 TEST(EigenSym, TypedCases) {
   constexpr double t = 1 + 0x1p-20;  // one step above a limit, in both types
@@ -362,10 +367,7 @@ TEST(EigenSym, TypedCases) {
       // The trace of order 2 against -eps: at -eps the pair is +-q/2, a step below the larger
       // magnitude comes first.
       {"2x2 trace at -eps", 2, [](double e) { return Mat{0.125, 0.5, 0.5, -0.125 - e}; }, 0,
-       [](double e) {
-         const double q = std::sqrt((0.25 + e) * (0.25 + e) + 1);
-         return V{0.5 * q, -0.5 * q};
-       }},
+       [](double e) { return V{0.5 * std::hypot(0.25 + e, 1.0), -0.5 * std::hypot(0.25 + e, 1.0)}; }},
       {"2x2 trace a step below -eps", 2, [](double e) { return Mat{0.125, 0.5, 0.5, -0.125 - 2 * e}; }, 0,
        [](double e) {
          const double q = std::sqrt((0.25 + 2 * e) * (0.25 + 2 * e) + 1), v0 = 0.5 * (-2 * e - q);
@@ -373,32 +375,18 @@ TEST(EigenSym, TypedCases) {
        }},
       // A reflection whose h is eps is left out, and the element it would have moved is never
       // read again; a step above it is applied.
-      {"reflection with h at eps", 4,
-       [](double e) {
-         const double x = e > 0x1p-30 ? 0x1p-12 : 0x1p-27, y = e > 0x1p-30 ? 0 : 0x1p-27;
-         return Mat{2, 0, x, y, 0, 3, 0, 0, x, 0, 4, 0, y, 0, 0, 5};
-       },
+      {"reflection with h at eps", 4, [](double e) { return e > 0x1p-30 ? column0(0, 0x1p-12, 0) : column0(0, 0x1p-27, 0x1p-27); },
        0, [](double) { return V{5, 4, 3, 2}; }, {0, 0, 0, 1, 0, 0, 1, 0, 0, 1, 0, 0, 1, 0, 0, 0}},
       {"reflection with h a step above eps", 4,
-       [](double e) {
-         const double x = e > 0x1p-30 ? 0x1p-12 + 0x1p-22 : 0x1p-27 + 0x1p-47, y = e > 0x1p-30 ? 0 : x;
-         return Mat{2, 0, x, y, 0, 3, 0, 0, x, 0, 4, 0, y, 0, 0, 5};
-       },
+       [](double e) { return e > 0x1p-30 ? column0(0, 0x1p-12 + 0x1p-22, 0) : column0(0, 0x1p-27 + 0x1p-47, 0x1p-27 + 0x1p-47); },
        0, nullptr, {}, itself},
       // With vectors a column whose norm exceeds its subdiagonal element by eps (in the member's
       // arithmetic) is left as it is, the elements below never read; by 2 eps it is reflected.
       {"column within eps of its form", 4,
-       [](double e) {
-         const double x1 = e > 0x1p-30 ? 0x1p-11 : 0x1.4p-26, x2 = e > 0x1p-30 ? 0x1p-23 : 0;
-         return Mat{2, 1, x1, x2, 1, 3, 0, 0, x1, 0, 4, 0, x2, 0, 0, 5};
-       },
-       0, nullptr, {}, [](double) { return Mat{2, 1, 0, 0, 1, 3, 0, 0, 0, 0, 4, 0, 0, 0, 0, 5}; }},
+       [](double e) { return e > 0x1p-30 ? column0(1, 0x1p-11, 0x1p-23) : column0(1, 0x1.4p-26, 0); }, 0, nullptr, {},
+       [](double) { return column0(1, 0, 0); }},
       {"column 2 eps from its form", 4,
-       [](double e) {
-         const double x1 = e > 0x1p-30 ? 0x1p-11 : 0x1p-25, x2 = e > 0x1p-30 ? 0x1p-11 : 0;
-         return Mat{2, 1, x1, x2, 1, 3, 0, 0, x1, 0, 4, 0, x2, 0, 0, 5};
-       },
-       0, nullptr, {}, itself},
+       [](double e) { return e > 0x1p-30 ? column0(1, 0x1p-11, 0x1p-11) : column0(1, 0x1p-25, 0); }, 0, nullptr, {}, itself},
       // An eigenvalue that takes exactly 30 sweeps succeeds; one that would take 31 fails.
       {"30 sweeps for one eigenvalue", 4,
        [](double e) {
@@ -451,11 +439,7 @@ TEST(EigenSym, ShiftOfTheStridedSingleFloatVectorsWorker) {
 
 // ---- General: mathematics ----------------------------------------------------------------------
 
-double frobenius(const Mat& a) {
-  double s = 0;
-  for (double x : a) s += x * x;
-  return std::sqrt(s);
-}
+double frobenius(const Mat& a) { return std::sqrt(std::inner_product(a.begin(), a.end(), a.begin(), 0.0)); }
 
 // Determinant by elimination with partial pivoting in long double.
 double determinant(Mat m, int n) {
