@@ -310,7 +310,7 @@ TEST(EigenSym, BuiltInSpectraAndOrthonormalVectors) {
         const Out o = run(*m, n, {a});
         ASSERT_EQ(o.status, 0) << m->name << " order " << n;
         for (int j = 0; j < n; ++j) EXPECT_NEAR(o.val(0, j), lam[size_t(j)], tol) << m->name << " order " << n;
-        if (fam == "EigenValuesVectorsSym") EXPECT_EQ(symResidual(a, o, 0, tol), "") << m->name << " order " << n;
+        EXPECT_EQ(fam == "EigenValuesVectorsSym" ? symResidual(a, o, 0, tol) : "", "") << m->name << " order " << n;
       }
     }
 }
@@ -415,9 +415,8 @@ TEST(EigenSym, TypedCases) {
           EXPECT_NEAR(o.val(0, int(j)), c.values(eps)[j], 4 * eps) << what << " value " << j;
         if (fam == "EigenValuesSym") continue;
         for (int j = 0; j < int(c.vectors.size()); ++j) EXPECT_EQ(o.vec(0, j / c.n, j % c.n), c.vectors[size_t(j)]) << what;
-        if (c.solves)
-          EXPECT_EQ(symResidual(c.solves == itself ? a : c.solves(eps), o, 0, (nm.esize == 4 ? 2e-5 : 4e-14) * c.n), "")
-              << what;
+        const double tol = (nm.esize == 4 ? 2e-5 : 4e-14) * c.n;
+        EXPECT_EQ(c.solves ? symResidual(c.solves == itself ? a : c.solves(eps), o, 0, tol) : "", "") << what;
       }
     }
 }
@@ -504,7 +503,7 @@ TEST(GeneralEigen, SpectraTraceDeterminantAndVectors) {
         ASSERT_EQ(o.status, 0) << what;
         std::vector<bool> used(size_t(n), false);
         for (int i = 0; i < n; ++i) {
-          if (o.val(0, n + i) > 0) EXPECT_EQ(eigenvalue(o, 0, i + 1), std::conj(eigenvalue(o, 0, i))) << what;
+          EXPECT_TRUE(o.val(0, n + i) <= 0 || eigenvalue(o, 0, i + 1) == std::conj(eigenvalue(o, 0, i))) << what;
           size_t best = 0;
           for (size_t s = 0; s < spectrum.size(); ++s)
             if (!used[s] && (used[best] || std::abs(spectrum[s] - eigenvalue(o, 0, i)) < std::abs(spectrum[best] - eigenvalue(o, 0, i)))) best = s;
