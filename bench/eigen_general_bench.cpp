@@ -1,6 +1,6 @@
 // General eigenproblems: a batch of 4x4 matrices, tarn against the loops a caller would write.
 //   plain    the Hessenberg reduction and double-shift QR written out plainly, one matrix after
-//            the other (the test suite's model of the iteration, so its eigenvalues are tarn's
+//            the other (eigen_general_plain.hpp, so its eigenvalues are tarn's
 //            to the bit); eigenvalue workloads only
 //   eigen    Eigen's EigenSolver on each matrix, mapped onto the batch
 //   lapacke  LAPACKE ?geev on each matrix (a copy, which geev overwrites; workspace allocated once)
@@ -18,7 +18,7 @@
 #include <string>
 #include <vector>
 
-#include "../tests/ref/eigen_general_ref.hpp"
+#include "eigen_general_plain.hpp"
 #include "support.hpp"
 
 namespace {
