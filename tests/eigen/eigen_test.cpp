@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "batches.hpp"
+#include "harness.hpp"
 #include "regions.hpp"
 #include "scratch.hpp"
 
