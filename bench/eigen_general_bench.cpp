@@ -1,11 +1,8 @@
 // General eigenproblems: a batch of 4x4 matrices, tarn against the loops a caller would write.
-//   plain    the Hessenberg reduction and double-shift QR written out plainly, one matrix after
-//            the other (eigen_general_plain.hpp, so its eigenvalues are tarn's
-//            to the bit); eigenvalue workloads only
 //   eigen    Eigen's EigenSolver on each matrix, mapped onto the batch
 //   lapacke  LAPACKE ?geev on each matrix (a copy, which geev overwrites; workspace allocated once)
-// tarn's eigenvalues are checked against plain bit for bit; every contender's eigenvalues against
-// tarn's to a tolerance, and eigenvectors by their residuals, before it is timed.
+// Every contender's eigenvalues are checked against tarn's to a tolerance, and eigenvectors by
+// their residuals, before it is timed; tarn's own timed calls must repeat its first call's bits.
 #include <lapacke.h>
 #include <omp.h>
 #include <tarn.h>
@@ -18,7 +15,6 @@
 #include <string>
 #include <vector>
 
-#include "eigen_general_plain.hpp"
 #include "support.hpp"
 
 namespace {
@@ -55,19 +51,6 @@ tarnStatus tarnRight(Batch<float>& b) {
   constexpr int32_t os = kN * kN * 4, rs = kN * 4;
   return tarnEigenValuesVectorsRight_ma_32f(b.src.as<float>(), os, rs, 4, b.vec.as<float>(), os, rs, 4, b.re.as<float>(),
                                             b.im.as<float>(), kN, kCount, b.scratch.as<float>());
-}
-
-template <class T>
-void plainValues(Batch<T>& b) {
-  static tt::geigref::Model<T> model;
-  std::vector<T> src(kN * kN), re(kN), im(kN);
-  const double tiny = tt::geigref::Consts<T>::tiny;
-  for (int32_t k = 0; k < kCount; ++k) {
-    std::memcpy(src.data(), b.src.template as<T>() + size_t(k) * kN * kN, sizeof(T) * kN * kN);
-    model.run(src, kN, {false, tiny}, re, im);
-    std::memcpy(b.re.template as<T>() + size_t(k) * kN, re.data(), sizeof(T) * kN);
-    std::memcpy(b.im.template as<T>() + size_t(k) * kN, im.data(), sizeof(T) * kN);
-  }
 }
 
 // Eigen and LAPACKE see each matrix column-major, that is transpose(src), whose eigenvalues are
@@ -191,10 +174,6 @@ void registerValues(const std::string& name) {
       prepare();
       timed<T>(st, b, bytes, t, [] { tarnValues(b); }, exact);
     });
-  tarnbench::registerBench(wl + "plain/T:1", [=](benchmark::State& st) {
-    prepare();
-    timed<T>(st, b, bytes, 1, [] { plainValues(b); }, exact);
-  });
   tarnbench::registerBench(wl + "eigen/T:1", [=](benchmark::State& st) {
     prepare();
     timed<T>(st, b, bytes, 1, [] { eigenSolve(b, false); }, [] { return sameValues(b); });
