@@ -162,7 +162,12 @@ std::vector<T> symmetric(std::mt19937& rng, int n, int kind) {
     for (int c = r; c < n; ++c) {
       double v = kind == 1 ? small(rng) : u(rng) * f;
       if (kind == 2 && r != c && coin(rng)) v = 0;
-      if (kind == 4 && c > r) v = c == r + 1 ? eps * (1 + coin(rng)) * (1 + small(rng) * 0x1p-10) : 0;
+      if (kind == 4 && c > r && c == r + 1) {
+        const int up = coin(rng);  // one draw per statement, so every compiler draws alike
+        v = eps * (1 + up) * (1 + small(rng) * 0x1p-10);
+      } else if (kind == 4 && c > r) {
+        v = 0;
+      }
       if (kind == 5) v = r != c ? 0 : (r == 0 || r == n - 1) ? 0.5 : u(rng);
       a[size_t(r * n + c)] = a[size_t(c * n + r)] = T(v);
     }

@@ -21,7 +21,8 @@ inline void fillBits(tt::Operand& o, int rows, int cols, std::mt19937& rng) {
     for (int r = 0; r < rows; ++r)
       for (int c = 0; c < cols; ++c) {
         const unsigned k = rng() % 8;
-        const uint64_t any = uint64_t(rng()) << 32 | rng();
+        const uint64_t high = uint64_t(rng()) << 32;  // drawn first, on any compiler
+        const uint64_t any = high | rng();
         o.setBits(n, r, c, k < 5 ? (o.esize() == 4 ? f[k] : d[k]) : any);
       }
 }

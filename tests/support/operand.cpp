@@ -187,7 +187,11 @@ static double mantissa(std::mt19937& rng) {
 
 double randomValue(std::mt19937& rng, int esize) {
   std::uniform_int_distribution<int> ex(-6, 6), sign(0, 1);
-  const double v = std::ldexp(mantissa(rng), ex(rng)) * (sign(rng) ? -1 : 1);
+  // One draw per statement: the order in which a call's arguments are evaluated differs between
+  // compilers, and with it the data.
+  const double m = mantissa(rng);
+  const int e = ex(rng);
+  const double v = std::ldexp(m, e) * (sign(rng) ? -1 : 1);
   return esize == 4 ? double(float(v)) : v;
 }
 
