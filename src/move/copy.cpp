@@ -101,7 +101,7 @@ template <class E, int N>
 Spans<N> spansOf(const FixedS<E, N>& f, int32_t count) {
   Spans<N> r;
   const int64_t last = int64_t(count - 1) * f.objStride;
-  if (f.ext < 0 || last > INT32_MAX) return r;
+  if (last > INT32_MAX || f.ext < 0) return r;  // GCC reads "ext < ... >" as a template
   r.s[0] = spanAt(f.base, last + f.ext);
   r.n = 1;
   return r;
@@ -119,9 +119,17 @@ Spans<N> spansOf(const FixedP<E, N>& f, int32_t count) {
   r.n = N;
   return r;
 }
+// The smallest span holding all of them.
+template <int N>
+Span hull(const Spans<N>& a) {
+  Span h = a.s[0];
+  for (int i = 1; i < a.n; ++i) h = {std::min(h.lo, a.s[i].lo), std::max(h.hi, a.s[i].hi)};
+  return h;
+}
 template <int N>
 bool apart(const Spans<N>& a, const Spans<N>& b) {
   if (a.n < 0 || b.n < 0) return false;
+  if (apart(hull(a), hull(b))) return true;  // two separate arrays: no pair to look at
   for (int i = 0; i < a.n; ++i)
     for (int k = 0; k < b.n; ++k)
       if (!apart(a.s[i], b.s[k])) return false;
@@ -176,16 +184,13 @@ void streams(const FixedP<T, N>& d, const FixedP<const T, N>& s, int32_t count) 
   }
 }
 
-// The smallest span holding all of them.
-template <int N>
-Span hull(const Spans<N>& a) {
-  Span h = a.s[0];
-  for (int i = 1; i < a.n; ++i) h = {std::min(h.lo, a.s[i].lo), std::max(h.hi, a.s[i].hi)};
-  return h;
-}
 // No two of them share a byte: writes to them can come in any order.
 template <int N>
 bool selfApart(const Spans<N>& a) {
+  // Streams stored one after the other, the usual case, show it in one pass.
+  bool ascending = a.n > 0;
+  for (int i = 1; i < a.n && ascending; ++i) ascending = a.s[i - 1].hi <= a.s[i].lo;
+  if (ascending) return true;
   for (int i = 0; i < a.n; ++i)
     for (int k = i + 1; k < a.n; ++k)
       if (!apart(a.s[i], a.s[k])) return false;
