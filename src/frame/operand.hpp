@@ -228,7 +228,7 @@ template <int N, class U>
 auto frozen(const OneCached<U, N>& a) {
   using T = std::remove_const_t<U>;
   OneValues<T, N> o;
-  for (int i = 0; i < N; ++i) o.v[i] = *a.base[i];
+  for (int i = 0; i < N; ++i) o.v[i] = loadElem(a.base[i]);
   o.sw = a.sw;
   return o;
 }

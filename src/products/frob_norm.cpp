@@ -146,7 +146,8 @@ int32_t gapless3(const A& a, float* d, int32_t count) {
     for (int j = 0; j < 4; ++j) {
       const float* p = a.obj(n + j).p;
       const __m128 x = simd::load<4, false>(p), y = simd::load<4, false>(p + 4);
-      h[j] = simd::addLane0(simd::hadd(simd::mul(x, x), simd::mul(y, y)), p[8] * p[8]);
+      const float z = loadElem(p + 8);  // objects may sit off their float boundary
+      h[j] = simd::addLane0(simd::hadd(simd::mul(x, x), simd::mul(y, y)), z * z);
     }
     const __m128 t = simd::hadd(simd::hadd(h[0], h[1]), simd::hadd(h[2], h[3]));
     simd::store<4, false>(d + n, simd::sqrtLanes(t));

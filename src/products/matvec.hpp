@@ -125,7 +125,7 @@ void columnsBody(const D d, const A a, const V v, const S3 s3, int32_t objects) 
   const auto m = a.obj(0);
   for (int k = 0; k < N; ++k) {
     T c[N];
-    for (int i = 0; i < N; ++i) c[i] = *m.at(i, k);
+    for (int i = 0; i < N; ++i) c[i] = loadElem(m.at(i, k));
     col[k] = loadLanes<N>(static_cast<const T*>(c));
   }
   for (int32_t n = 0; n < count; ++n) {
@@ -164,10 +164,10 @@ int32_t dense3Body(const D d, const A a, const V v, const S3 s3, int32_t count) 
   F m[3][3], one[3];
   const auto o = a.obj(0);
   for (int i = 0; i < 3; ++i)
-    for (int k = 0; k < 3; ++k) m[i][k] = simd::broadcast(*o.at(i, k));
+    for (int k = 0; k < 3; ++k) m[i][k] = simd::broadcast(loadElem(o.at(i, k)));
   constexpr bool kAddendArray = Gx && !IsOne<S3>::value;
   if constexpr (Gx && !kAddendArray)
-    for (int i = 0; i < 3; ++i) one[i] = simd::broadcast(s3.obj(0).rowPtr(0)[i]);
+    for (int i = 0; i < 3; ++i) one[i] = simd::broadcast(loadElem(s3.obj(0).rowPtr(0) + i));
   const float* pv = v.obj(0).rowPtr(0);
   float* pd = d.obj(0).rowPtr(0);
   const float* ps = nullptr;
@@ -211,7 +211,7 @@ void rowsBody(const D d, const A a, const V v, int32_t objects) {
   if constexpr (kOneA)
     for (int k = 0; k < N; ++k) rows[k] = loadLanes<N>(a.obj(0).rowPtr(k));
   if constexpr (kOneV)
-    for (int k = 0; k < N; ++k) b[k] = simd::broadcast(v.obj(0).rowPtr(0)[k]);
+    for (int k = 0; k < N; ++k) b[k] = simd::broadcast(loadElem(v.obj(0).rowPtr(0) + k));
   for (int32_t n = 0; n < count; ++n) {
     if constexpr (!kOneA) {
       const auto m = a.obj(n);
@@ -219,7 +219,7 @@ void rowsBody(const D d, const A a, const V v, int32_t objects) {
     }
     if constexpr (!kOneV) {
       const T* x = v.obj(n).rowPtr(0);
-      for (int k = 0; k < N; ++k) b[k] = simd::broadcast(x[k]);
+      for (int k = 0; k < N; ++k) b[k] = simd::broadcast(loadElem(x + k));
     }
     Lanes<T, N> s;
     for (int j = 0; j < kR; ++j) {
@@ -273,7 +273,7 @@ void pairs4Body(const D d, const A a, const V v, const S3 s3, int32_t objects) {
   F c[4];
   for (int q = 0; q < 4; ++q) {
     const int r = 2 * (q / 2), k = 2 * (q % 2);
-    c[q] = simd::constant(*m.at(r, k), *m.at(r, k + 1), *m.at(r + 1, k), *m.at(r + 1, k + 1));
+    c[q] = simd::constant(loadElem(m.at(r, k)), loadElem(m.at(r, k + 1)), loadElem(m.at(r + 1, k)), loadElem(m.at(r + 1, k + 1)));
   }
   for (int32_t n = 0; n < count; ++n) {
     prefetchAhead(v, n);
@@ -297,25 +297,25 @@ void scalarBody(const D d, const A a, const V v, const S3 s3, int32_t objects) {
   if constexpr (kOneA) {
     const auto o = a.obj(0);
     for (int i = 0; i < N; ++i)
-      for (int k = 0; k < N; ++k) m[i][k] = *o.at(i, k);
+      for (int k = 0; k < N; ++k) m[i][k] = loadElem(o.at(i, k));
   }
   if constexpr (kOneV) {
     const auto o = v.obj(0);
-    for (int k = 0; k < N; ++k) x1[k] = *o.at(0, k);
+    for (int k = 0; k < N; ++k) x1[k] = loadElem(o.at(0, k));
   }
   for (int32_t n = 0; n < count; ++n) {
     [[maybe_unused]] const auto ao = a.obj(n);
     const auto vo = v.obj(n);
     const auto dv = d.obj(n);
     T x[N], out[N];
-    for (int k = 0; k < N; ++k) x[k] = kOneV ? x1[k] : *vo.at(0, k);
+    for (int k = 0; k < N; ++k) x[k] = kOneV ? x1[k] : loadElem(vo.at(0, k));
     for (int i = 0; i < N; ++i) {
       T p[N];
-      for (int k = 0; k < N; ++k) p[k] = (kOneA ? m[i][k] : *ao.at(i, k)) * x[k];
+      for (int k = 0; k < N; ++k) p[k] = (kOneA ? m[i][k] : loadElem(ao.at(i, k))) * x[k];
       out[i] = sumOf<O, N>(p, i);
-      if constexpr (Gx) out[i] = out[i] + *s3.obj(n).at(0, i);
+      if constexpr (Gx) out[i] = out[i] + loadElem(s3.obj(n).at(0, i));
     }
-    for (int i = 0; i < N; ++i) *dv.at(0, i) = out[i];
+    for (int i = 0; i < N; ++i) storeElem(dv.at(0, i), out[i]);
   }
 }
 
@@ -333,20 +333,20 @@ void tripleLoop(const D d, const A a, const V v, const S3 s3, int32_t objects, i
     const auto dv = d.obj(n);
     for (int32_t i = 0; i < rows; ++i) {
       T* dp = dv.at(0, i);
-      *dp = T(0);
+      storeElem(dp, T(0));
       T s = T(0);
       int32_t k = 0;
       for (; k + 1 < inner; k += 2) {
-        s = s + *ao.at(i, k) * *vo.at(0, k);
-        *dp = s;
-        s = s + *ao.at(i, k + 1) * *vo.at(0, k + 1);
-        *dp = s;
+        s = s + loadElem(ao.at(i, k)) * loadElem(vo.at(0, k));
+        storeElem(dp, s);
+        s = s + loadElem(ao.at(i, k + 1)) * loadElem(vo.at(0, k + 1));
+        storeElem(dp, s);
       }
       if (k < inner) {
-        s = s + *ao.at(i, k) * *vo.at(0, k);
-        *dp = s;
+        s = s + loadElem(ao.at(i, k)) * loadElem(vo.at(0, k));
+        storeElem(dp, s);
       }
-      if constexpr (Gx) *dp = s + *s3.obj(n).at(0, i);
+      if constexpr (Gx) storeElem(dp, T(s + loadElem(s3.obj(n).at(0, i))));
     }
   }
 }
@@ -422,7 +422,7 @@ template <class T>
 void mvRows(const Obj<T>& o, int32_t rows, int32_t inner) {
   const int32_t rem = rows % 8;
   for (int32_t i = 0; i < rows; ++i)
-    o.d[i] = dotBy<T>(i < rows - rem || rem >= 4 ? simd::kLanes<T> : 8, o.rowAt(i), o.v, inner, true);
+    storeElem(o.d + i, dotBy<T>(i < rows - rem || rem >= 4 ? simd::kLanes<T> : 8, o.rowAt(i), o.v, inner, true));
 }
 
 // One object of a pair: rows in blocks of 4, one register accumulator each; one remaining row
@@ -432,7 +432,7 @@ template <class T>
 void pairRows(const Obj<T>& o, int32_t rows, int32_t inner, bool peel) {
   const int32_t rem = rows % 4;
   for (int32_t i = 0; i < rows; ++i)
-    o.d[i] = dotBy<T>(i < rows - rem ? simd::kLanes<T> : rem == 1 ? 8 : 4, o.rowAt(i), o.v, inner, peel);
+    storeElem(o.d + i, dotBy<T>(i < rows - rem ? simd::kLanes<T> : rem == 1 ? 8 : 4, o.rowAt(i), o.v, inner, peel));
 }
 
 // Result i of a matrix read transposed runs down stored column i: k ascending from +0.0, or the
@@ -441,7 +441,7 @@ void pairRows(const Obj<T>& o, int32_t rows, int32_t inner, bool peel) {
 template <class T>
 T columnAscending(const Obj<T>& o, int32_t i, int32_t inner) {
   T s = T(0);
-  for (int32_t k = 0; k < inner; ++k) s = s + o.rowAt(k)[i] * o.v[k];
+  for (int32_t k = 0; k < inner; ++k) s = s + loadElem(o.rowAt(k) + i) * loadElem(o.v + k);
   return s;
 }
 template <class T>
@@ -449,11 +449,11 @@ T columnSplit(const Obj<T>& o, int32_t i, int32_t inner) {
   T even = T(0), odd = T(0);
   int32_t k = 0;
   for (; k + 1 < inner; k += 2) {
-    even = even + o.rowAt(k)[i] * o.v[k];
-    odd = odd + o.rowAt(k + 1)[i] * o.v[k + 1];
+    even = even + loadElem(o.rowAt(k) + i) * loadElem(o.v + k);
+    odd = odd + loadElem(o.rowAt(k + 1) + i) * loadElem(o.v + k + 1);
   }
   T s = even + odd;
-  if (k < inner) s = s + o.rowAt(k)[i] * o.v[k];
+  if (k < inner) s = s + loadElem(o.rowAt(k) + i) * loadElem(o.v + k);
   return s;
 }
 
@@ -463,7 +463,7 @@ template <class T>
 void tvRows(const Obj<T>& o, int32_t rows, int32_t inner) {
   const int32_t rem = rows % 8;
   for (int32_t i = 0; i < rows; ++i)
-    o.d[i] = i < rows - rem || rem >= 3 ? columnAscending(o, i, inner) : columnSplit(o, i, inner);
+    storeElem(o.d + i, i < rows - rem || rem >= 3 ? columnAscending(o, i, inner) : columnSplit(o, i, inner));
 }
 
 // The general body of the contiguous workers of Mul. Arrays go by pairs of objects; the odd last
@@ -485,9 +485,9 @@ void contiguousGeneral(const D d, const A a, const V v, int32_t objects, int32_t
     if constexpr (kT) {
       if (lone) tvRows(o, rows, inner);
       else
-        for (int32_t i = 0; i < rows; ++i) o.d[i] = columnAscending(o, i, inner);
+        for (int32_t i = 0; i < rows; ++i) storeElem(o.d + i, columnAscending(o, i, inner));
     } else if constexpr (kEach) {
-      for (int32_t i = 0; i < rows; ++i) o.d[i] = dotBy<T>(8, o.rowAt(i), o.v, inner, true);
+      for (int32_t i = 0; i < rows; ++i) storeElem(o.d + i, dotBy<T>(8, o.rowAt(i), o.v, inner, true));
     } else if (lone) {
       mvRows(o, rows, inner);
     } else {
