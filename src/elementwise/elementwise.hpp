@@ -181,7 +181,7 @@ template <class T>
 struct Broadcast {
   T v;
 };
-template <class T> inline T elemAt(const T* p, int32_t i) { return p[i]; }
+template <class T> inline T elemAt(const T* p, int32_t i) { return loadElem(p + i); }
 template <class T> inline T elemAt(const Broadcast<T>& s, int32_t) { return s.v; }
 template <bool Al, class T> inline simd::Vec<T> vecAt(const T* p, int32_t i) { return simd::load<simd::kLanes<T>, Al>(p + i); }
 template <bool Al, class T> inline simd::Vec<T> vecAt(const Broadcast<T>& s, int32_t) { return simd::broadcast(s.v); }
@@ -192,7 +192,7 @@ template <class T, class Op, class SA, class SB>
 void rowLoop(const Op& op, T* d, const SA a, const SB b, const int32_t n) {
   constexpr int kL = simd::kLanes<T>, kStep = 8;
   int32_t i = 0;
-  for (; i < n && !simd::aligned16(d + i); ++i) d[i] = op(elemAt(a, i), elemAt(b, i));
+  for (; i < n && !simd::aligned16(d + i); ++i) storeElem(d + i, op(elemAt(a, i), elemAt(b, i)));
   auto steps = [&]<bool Al>() {
     for (; i + kStep <= n; i += kStep)
       simd::unroll<kStep / kL>([&]<int K>() {
@@ -201,7 +201,7 @@ void rowLoop(const Op& op, T* d, const SA a, const SB b, const int32_t n) {
   };
   if (alignedAt(a, i) && alignedAt(b, i)) steps.template operator()<true>();
   else steps.template operator()<false>();
-  for (; i < n; ++i) d[i] = op(elemAt(a, i), elemAt(b, i));
+  for (; i < n; ++i) storeElem(d + i, op(elemAt(a, i), elemAt(b, i)));
 }
 
 inline bool overlaps(const void* a, const void* b, int32_t bytes) {

@@ -26,7 +26,7 @@ struct Matrix {
   explicit Matrix(const Blk& b) {
     for (int r = 0; r < 4; ++r)
       for (int c = 0; c < 4; ++c) {
-        m[r][c] = *byteAdd(static_cast<const float*>(b.ptr), off32(r, b.row) + off32(c, b.elem));
+        m[r][c] = loadElem(byteAdd(static_cast<const float*>(b.ptr), off32(r, b.row) + off32(c, b.elem)));
         e[r][c] = simd::broadcast(m[r][c]);
       }
   }
@@ -79,7 +79,7 @@ tarnStatus strided(const Matrix& mx, const Blk& src, const Blk& dst, int32_t cou
   for (int32_t n = 0; n < count; ++n) {
     const float* p = byteAdd(static_cast<const float*>(src.ptr), off32(n, src.obj));
     float* q = byteAdd(static_cast<float*>(const_cast<void*>(dst.ptr)), off32(n, dst.obj));
-    const float x = *p, y = *byteAdd(p, src.elem), z = *byteAdd(p, off32(2, src.elem));
+    const float x = loadElem(p), y = loadElem(byteAdd(p, src.elem)), z = loadElem(byteAdd(p, off32(2, src.elem)));
     float t[4];
     for (int r = 0; r < 4; ++r) t[r] = ((x * m[r][0] + m[r][3]) + y * m[r][1]) + z * m[r][2];
     float out[3] = {kFailed, kFailed, kFailed};
@@ -89,9 +89,9 @@ tarnStatus strided(const Matrix& mx, const Blk& src, const Blk& dst, int32_t cou
     } else {
       ok = false;
     }
-    q[0] = out[0];
-    *byteAdd(q, dst.elem) = out[1];
-    *byteAdd(q, off32(2, dst.elem)) = out[2];
+    storeElem(q, out[0]);
+    storeElem(byteAdd(q, dst.elem), out[1]);
+    storeElem(byteAdd(q, off32(2, dst.elem)), out[2]);
   }
   return ok ? tarnStatusOk : tarnStatusDivideByZero;
 }

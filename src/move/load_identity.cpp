@@ -20,11 +20,11 @@ void plainFill(const D& dst, int32_t count, int32_t height, int32_t width) {
     for (int32_t r = 0; r < height; ++r) {
       int32_t c = 0;
       for (; c + 1 < width; c += 2) {
-        *d.at(r, c) = T(0);
-        *d.at(r, c + 1) = T(0);
+        storeElem(d.at(r, c), T(0));
+        storeElem(d.at(r, c + 1), T(0));
       }
-      if (c < width) *d.at(r, c) = T(0);
-      if (r < width) *d.at(r, r) = T(1);
+      if (c < width) storeElem(d.at(r, c), T(0));
+      if (r < width) storeElem(d.at(r, r), T(1));
     }
   }
 }
@@ -80,8 +80,8 @@ void fillRows(const PackedRows& d, int32_t count, int32_t height, int32_t width)
           simd::store<4, false>(p + c, z);
           simd::store<4, false>(p + c + 4, z);
         }
-      for (; c < width; ++c) p[c] = 0.0f;
-      if (r < width) p[r] = 1.0f;
+      for (; c < width; ++c) storeElem(p + c, 0.0f);
+      if (r < width) storeElem(p + r, 1.0f);
     }
 }
 

@@ -52,7 +52,7 @@ simd::Row<T, N> rightRow(const BV& bv, int k) {
     return simd::loadRow<N, false>(bv.rowPtr(k));
   } else {
     alignas(16) T tmp[N + 3];
-    for (int j = 0; j < N; ++j) tmp[j] = *bv.at(k, j);
+    for (int j = 0; j < N; ++j) tmp[j] = loadElem(bv.at(k, j));
     return simd::loadRow<N, true>(static_cast<const T*>(tmp));
   }
 }
@@ -64,7 +64,7 @@ simd::Row<T, N> leftRow(const AV& av, int i) {
     return simd::loadRow<N, false>(av.rowPtr(i));
   } else {
     alignas(16) T tmp[N + 3];
-    for (int k = 0; k < N; ++k) tmp[k] = *av.at(i, k);
+    for (int k = 0; k < N; ++k) tmp[k] = loadElem(av.at(i, k));
     return simd::loadRow<N, true>(static_cast<const T*>(tmp));
   }
 }
@@ -76,7 +76,7 @@ void storeRow(const DV& dv, int i, const simd::Row<T, N>& r) {
   } else {
     alignas(16) T tmp[N + 3];
     simd::storeRow<N, true>(tmp, r);
-    for (int j = 0; j < N; ++j) *dv.at(i, j) = tmp[j];
+    for (int j = 0; j < N; ++j) storeElem(dv.at(i, j), tmp[j]);
   }
 }
 
@@ -155,23 +155,23 @@ void tripleLoop(const DV& dv, const AV& av, const BV& bv, Dims z) {
   for (int32_t i = 0; i < z.rows; ++i)
     for (int32_t j = 0; j < z.cols; ++j) {
       T* out = dv.at(i, j);
-      *out = T(0);
+      storeElem(out, T(0));
       T s = T(0);
       int32_t k = 0;
       for (; k + 1 < z.inner; k += 2) {
         if constexpr (SumInDst) {
-          *out = *out + T(*av.at(i, k)) * T(*bv.at(k, j));
-          *out = *out + T(*av.at(i, k + 1)) * T(*bv.at(k + 1, j));
+          storeElem(out, loadElem(out) + T(loadElem(av.at(i, k))) * T(loadElem(bv.at(k, j))));
+          storeElem(out, loadElem(out) + T(loadElem(av.at(i, k + 1))) * T(loadElem(bv.at(k + 1, j))));
         } else {
-          s = s + T(*av.at(i, k)) * T(*bv.at(k, j));
-          *out = s;
-          s = s + T(*av.at(i, k + 1)) * T(*bv.at(k + 1, j));
-          *out = s;
+          s = s + T(loadElem(av.at(i, k))) * T(loadElem(bv.at(k, j)));
+          storeElem(out, s);
+          s = s + T(loadElem(av.at(i, k + 1))) * T(loadElem(bv.at(k + 1, j)));
+          storeElem(out, s);
         }
       }
       if (k < z.inner) {
-        if constexpr (SumInDst) *out = *out + T(*av.at(i, k)) * T(*bv.at(k, j));
-        else *out = s + T(*av.at(i, k)) * T(*bv.at(k, j));
+        if constexpr (SumInDst) storeElem(out, loadElem(out) + T(loadElem(av.at(i, k))) * T(loadElem(bv.at(k, j))));
+        else storeElem(out, s + T(loadElem(av.at(i, k))) * T(loadElem(bv.at(k, j))));
       }
     }
 }
@@ -182,7 +182,7 @@ void tripleLoop(const DV& dv, const AV& av, const BV& bv, Dims z) {
 template <bool MT, bool TM, class T, class DV, class AV, class BV>
 void tile(const DV& dv, const AV& av, const BV& bv, Dims z) {
   const int32_t K = z.inner;
-  auto p = [&](int32_t i, int32_t k, int32_t j) { return T(*av.at(i, k)) * T(*bv.at(k, j)); };
+  auto p = [&](int32_t i, int32_t k, int32_t j) { return T(loadElem(av.at(i, k))) * T(loadElem(bv.at(k, j))); };
   constexpr int kL = 16 / int(sizeof(T));
   // Four lanes reduce as (l0 + l2) + (l1 + l3), two as l0 + l1.
   auto reduce = [](const T* l) { return kL == 4 ? (l[0] + l[2]) + (l[1] + l[3]) : l[0] + l[1]; };
@@ -245,19 +245,19 @@ void tile(const DV& dv, const AV& av, const BV& bv, Dims z) {
     for (int32_t j = 0; j < cb; j += 2) {
       T r[8];
       for (int q = 0; q < 8; ++q) r[q] = blockSum(i + q / 2, j + q % 2);
-      for (int q = 0; q < 8; ++q) *dv.at(i + q / 2, j + q % 2) = r[q];
+      for (int q = 0; q < 8; ++q) storeElem(dv.at(i + q / 2, j + q % 2), r[q]);
     }
   if (z.cols % 2)
     for (int32_t i = 0; i < rb; i += 4) {
       T r[4];
       for (int q = 0; q < 4; ++q) r[q] = blockSum(i + q, z.cols - 1);
-      for (int q = 0; q < 4; ++q) *dv.at(i + q, z.cols - 1) = r[q];
+      for (int q = 0; q < 4; ++q) storeElem(dv.at(i + q, z.cols - 1), r[q]);
     }
   const int32_t rest = z.rows - rb;
   for (int32_t j = 0; rest && j < z.cols; ++j) {
     T r[3];
     for (int32_t q = 0; q < rest; ++q) r[q] = restSum(rb + q, j, rest);
-    for (int32_t q = 0; q < rest; ++q) *dv.at(rb + q, j) = r[q];
+    for (int32_t q = 0; q < rest; ++q) storeElem(dv.at(rb + q, j), r[q]);
   }
 }
 

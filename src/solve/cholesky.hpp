@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstdint>
 
+#include "operand.hpp"
 #include "simd.hpp"
 #include "tarn.h"
 
@@ -33,14 +34,14 @@ template <class T, class S, class D>
 tarnStatus factorLoop(const S& src, const D& dst, int32_t n) {
   for (int32_t i = 0; i < n; ++i) {
     for (int32_t j = 0; j < i; ++j) {
-      T s = *src.at(i, j);
-      for (int32_t k = 0; k < j; ++k) s = s - *dst.at(i, k) * *dst.at(j, k);
-      *dst.at(i, j) = s * *dst.at(j, j);
+      T s = loadElem(src.at(i, j));
+      for (int32_t k = 0; k < j; ++k) s = s - loadElem(dst.at(i, k)) * loadElem(dst.at(j, k));
+      storeElem(dst.at(i, j), s * loadElem(dst.at(j, j)));
     }
-    T d = *src.at(i, i);
-    for (int32_t k = 0; k < i; ++k) d = d - *dst.at(i, k) * *dst.at(i, k);
+    T d = loadElem(src.at(i, i));
+    for (int32_t k = 0; k < i; ++k) d = d - loadElem(dst.at(i, k)) * loadElem(dst.at(i, k));
     if (T(0) >= d) return tarnStatusNotPositiveDefinite;
-    *dst.at(i, i) = invSqrt(d);
+    storeElem(dst.at(i, i), invSqrt(d));
   }
   return tarnStatusOk;
 }
@@ -52,14 +53,14 @@ tarnStatus factorExpanded(const S& src, const D& dst) {
   T l[N][N];
   for (int i = 0; i < N; ++i) {
     for (int j = 0; j < i; ++j) {
-      T s = *src.at(i, j);
+      T s = loadElem(src.at(i, j));
       for (int k = 0; k < j; ++k) s = s - l[i][k] * l[j][k];
-      *dst.at(i, j) = l[i][j] = s * l[j][j];
+      storeElem(dst.at(i, j), l[i][j] = s * l[j][j]);
     }
-    T d = *src.at(i, i);
+    T d = loadElem(src.at(i, i));
     for (int k = 0; k < i; ++k) d = d - l[i][k] * l[i][k];
     if (T(0) >= d) return tarnStatusNotPositiveDefinite;
-    *dst.at(i, i) = l[i][i] = invSqrt(d);
+    storeElem(dst.at(i, i), l[i][i] = invSqrt(d));
   }
   return tarnStatusOk;
 }
@@ -72,14 +73,14 @@ tarnStatus factorExpanded(const S& src, const D& dst) {
 template <class T, class F, class B, class X>
 void solveLoop(const F& f, const B& b, const X& x, int32_t n) {
   for (int32_t i = 0; i < n; ++i) {
-    T v = *b.at(0, i);
-    for (int32_t j = 0; j < i; ++j) v = v - *f.at(i, j) * *x.at(0, j);
-    *x.at(0, i) = v * *f.at(i, i);
+    T v = loadElem(b.at(0, i));
+    for (int32_t j = 0; j < i; ++j) v = v - loadElem(f.at(i, j)) * loadElem(x.at(0, j));
+    storeElem(x.at(0, i), v * loadElem(f.at(i, i)));
   }
   for (int32_t i = n - 1; i >= 0; --i) {
-    T v = *x.at(0, i);
-    for (int32_t j = i + 1; j < n; ++j) v = v - *f.at(j, i) * *x.at(0, j);
-    *x.at(0, i) = v * *f.at(i, i);
+    T v = loadElem(x.at(0, i));
+    for (int32_t j = i + 1; j < n; ++j) v = v - loadElem(f.at(j, i)) * loadElem(x.at(0, j));
+    storeElem(x.at(0, i), v * loadElem(f.at(i, i)));
   }
 }
 
@@ -90,7 +91,7 @@ struct Factor {
   template <class F>
   void load(const F& f) {
     for (int i = 0; i < N; ++i)
-      for (int j = 0; j <= i; ++j) l[i][j] = *f.at(i, j);
+      for (int j = 0; j <= i; ++j) l[i][j] = loadElem(f.at(i, j));
   }
 };
 
@@ -99,7 +100,7 @@ template <class T, int N, class B, class X>
 void solveExpanded(const Factor<T, N>& f, const B& b, const X& x) {
   T y[N];
   for (int i = 0; i < N; ++i) {
-    T v = *b.at(0, i);
+    T v = loadElem(b.at(0, i));
     for (int j = 0; j < i; ++j) v = v - f.l[i][j] * y[j];
     y[i] = v * f.l[i][i];
   }
@@ -108,7 +109,7 @@ void solveExpanded(const Factor<T, N>& f, const B& b, const X& x) {
     for (int j = i + 1; j < N; ++j) v = v - f.l[j][i] * y[j];
     y[i] = v * f.l[i][i];
   }
-  for (int i = 0; i < N; ++i) *x.at(0, i) = y[i];
+  for (int i = 0; i < N; ++i) storeElem(x.at(0, i), y[i]);
 }
 
 }  // namespace tarn::chol

@@ -14,7 +14,7 @@ void storeGroup(const X& x, int32_t n, const simd::Vec<T> (&y)[N]) {
   for (int i = 0; i < N; ++i) out.put(i, y[i]);
   for (int l = 0; l < solve::kGroup<T>; ++l) {
     const auto xv = x.obj(n + l);
-    for (int i = 0; i < N; ++i) *xv.at(0, i) = out.at(i, l);
+    for (int i = 0; i < N; ++i) storeElem(xv.at(0, i), out.at(i, l));
   }
 }
 

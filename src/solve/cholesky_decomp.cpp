@@ -31,7 +31,7 @@ tarnStatus fixedOrder(const S& src, const D& dst, int32_t count) {
       for (int l = 0; l < G; ++l) {
         const auto d = dst.obj(n + l);
         for (int i = 0; i < N; ++i)
-          for (int j = 0; j <= i; ++j) *d.at(i, j) = out.at(tri(i, j), l);
+          for (int j = 0; j <= i; ++j) storeElem(d.at(i, j), out.at(tri(i, j), l));
       }
       return true;
     }, one);

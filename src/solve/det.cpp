@@ -19,7 +19,7 @@ T eliminate(const Src& src, T* w, int32_t n) {
   T result = 1, sign = 1;
   for (int32_t i = 0; i < n; ++i) {
     r[i] = i;
-    for (int32_t j = 0; j < n; ++j) w[i * n + j] = *src.at(i, j);
+    for (int32_t j = 0; j < n; ++j) w[i * n + j] = loadElem(src.at(i, j));
   }
   for (int32_t k = 0; k + 1 < n; ++k) {
     int32_t pos = k;

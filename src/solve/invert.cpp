@@ -72,7 +72,7 @@ tarnStatus generalInverse(const Src& src, const Dst& dst, T* w, int32_t n) {
   };
   for (int32_t i = 0; i < n; ++i) {
     r[i] = i;
-    for (int32_t j = 0; j < n; ++j) w[i * n + j] = *src.at(i, j);
+    for (int32_t j = 0; j < n; ++j) w[i * n + j] = loadElem(src.at(i, j));
   }
   T sign = 1, prod = 1;
   if (!eliminate(n, sign, prod)) return tarnStatusSingular;
@@ -85,7 +85,7 @@ tarnStatus generalInverse(const Src& src, const Dst& dst, T* w, int32_t n) {
       for (int32_t a = 0, wa = 0; a < n; ++a) {
         if (a == i) continue;
         for (int32_t b = 0, wb = 0; b < n; ++b)
-          if (b != j) w[wa * n + wb++] = *src.at(a, b);
+          if (b != j) w[wa * n + wb++] = loadElem(src.at(a, b));
         r[wa] = wa;
         ++wa;
       }
@@ -94,7 +94,7 @@ tarnStatus generalInverse(const Src& src, const Dst& dst, T* w, int32_t n) {
       if (n >= 3) eliminate(m, sign, prod);
       const T x = e(m - 1, m - 1);
       const T v = std::fabs(x) > tol ? (x * sign) * prod : tol;
-      *dst.at(j, i) = (v * qd) * T((i + j) % 2 ? -1 : 1);
+      storeElem(dst.at(j, i), (v * qd) * T((i + j) % 2 ? -1 : 1));
     }
   return tarnStatusOk;
 }
@@ -108,7 +108,7 @@ tarnStatus closedInverse(const Src& src, const Dst& dst, T tol) {
   solve::load1(src, a);
   if constexpr (Approx && N >= 5) {
     for (int r = 0; r < N - 4; ++r)
-      for (int c = 0; c < N; ++c) *dst.at(r, c) = a[r][c];
+      for (int c = 0; c < N; ++c) storeElem(dst.at(r, c), a[r][c]);
     bool ok;
     if constexpr (N == 5) ok = inverse::blockInverse5(a, tol, out);
     else ok = inverse::blockInverse6(a, tol, out);
@@ -166,9 +166,9 @@ tarnStatus run(const Plan& plan, const Call& c) {
     const auto dst = operandOf<T, L, false, Operand{'m', S.anyArray}, true>(c.op[2], 1);
     const T tol = cubeTolerance<T>(1);
     for (int32_t k = 0; k < (kSingle ? 1 : c.count); ++k) {
-      const T x = *src.obj(k).at(0, 0);
+      const T x = loadElem(src.obj(k).at(0, 0));
       if (!(std::fabs(x) > tol)) return tarnStatusSingular;
-      *dst.obj(k).at(0, 0) = T(1) / x;
+      storeElem(dst.obj(k).at(0, 0), T(1) / x);
     }
     return tarnStatusOk;
   }

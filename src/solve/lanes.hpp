@@ -230,7 +230,7 @@ inline void scatter(const View (&views)[K * kLanes<T>], const Lanes<T, K> (&x)[H
         for (int c = 0; c < W; ++c) {
           alignas(16) T t[kLanes<T>];
           simd::store<kLanes<T>, true>(t, x[r][c].v[k]);
-          for (int l = 0; l < m; ++l) *p.at(v[l], r, c) = t[l];
+          for (int l = 0; l < m; ++l) storeElem(p.at(v[l], r, c), t[l]);
         }
     }
   }
@@ -268,12 +268,12 @@ inline void scatterRow(const View (&views)[K * kLanes<T>], const Lanes<T, K> (&x
 template <int H, int W, class T, class View>
 inline void load1(const View& v, T (&x)[H][W]) {
   for (int r = 0; r < H; ++r)
-    for (int c = 0; c < W; ++c) x[r][c] = *v.at(r, c);
+    for (int c = 0; c < W; ++c) x[r][c] = loadElem(v.at(r, c));
 }
 template <int H, int W, class T, class View>
 inline void store1(const View& v, const T (&x)[H][W]) {
   for (int r = 0; r < H; ++r)
-    for (int c = 0; c < W; ++c) *v.at(r, c) = x[r][c];
+    for (int c = 0; c < W; ++c) storeElem(v.at(r, c), x[r][c]);
 }
 
 // The element type's smallest normal number times 2*n*n*n, the product formed in 32-bit

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "operand.hpp"
 #include "tarn.h"
 
 namespace tarn::lu {
@@ -37,10 +38,10 @@ template <class T, int N, class S, class D>
 tarnStatus factorExpanded(const S& src, const D& dst, int32_t* piv) {
   T a[N][N];
   for (int r = 0; r < N; ++r)
-    for (int c = 0; c < N; ++c) a[r][c] = *src.at(r, c);
+    for (int c = 0; c < N; ++c) a[r][c] = loadElem(src.at(r, c));
   for (int i = 0; i < N; ++i) piv[i] = i;
   auto storeRow = [&](int32_t row) {
-    for (int c = 0; c < N; ++c) *dst.at(row, c) = a[row][c];
+    for (int c = 0; c < N; ++c) storeElem(dst.at(row, c), a[row][c]);
   };
   for (int k = 0; k < N - 1; ++k) {
     int best = k;
@@ -76,12 +77,12 @@ template <class T, class S, class D>
 tarnStatus factorLoop(const S& src, const D& dst, int32_t* piv, int32_t n) {
   for (int32_t i = 0; i < n; ++i) piv[i] = i;
   for (int32_t r = 0; r < n; ++r)
-    for (int32_t c = 0; c < n; ++c) *dst.at(r, c) = *src.at(r, c);
+    for (int32_t c = 0; c < n; ++c) storeElem(dst.at(r, c), loadElem(src.at(r, c)));
   for (int32_t k = 0; k < n - 1; ++k) {
     int32_t best = k;
-    T mag = std::fabs(*dst.at(piv[k], k));
+    T mag = std::fabs(loadElem(dst.at(piv[k], k)));
     for (int32_t i = k + 1; i < n; ++i) {
-      const T m = std::fabs(*dst.at(piv[i], k));
+      const T m = std::fabs(loadElem(dst.at(piv[i], k)));
       if (m > mag) {
         mag = m;
         best = i;
@@ -90,13 +91,13 @@ tarnStatus factorLoop(const S& src, const D& dst, int32_t* piv, int32_t n) {
     if (mag <= Limits<T>::kLoop) return tarnStatusSingular;
     if (best != k) std::swap(piv[k], piv[best]);
     const int32_t pk = piv[k];
-    const T r = T(1) / *dst.at(pk, k);
-    for (int32_t i = k + 1; i < n; ++i) *dst.at(piv[i], k) = *dst.at(piv[i], k) * r;
+    const T r = T(1) / loadElem(dst.at(pk, k));
+    for (int32_t i = k + 1; i < n; ++i) storeElem(dst.at(piv[i], k), loadElem(dst.at(piv[i], k)) * r);
     for (int32_t i = k + 1; i < n; ++i)
       for (int32_t j = k + 1; j < n; ++j)
-        *dst.at(piv[i], j) = *dst.at(piv[i], j) - *dst.at(piv[i], k) * *dst.at(pk, j);
+        storeElem(dst.at(piv[i], j), loadElem(dst.at(piv[i], j)) - loadElem(dst.at(piv[i], k)) * loadElem(dst.at(pk, j)));
   }
-  if (std::fabs(*dst.at(piv[n - 1], n - 1)) <= Limits<T>::kLoop) return tarnStatusSingular;
+  if (std::fabs(loadElem(dst.at(piv[n - 1], n - 1))) <= Limits<T>::kLoop) return tarnStatusSingular;
   return tarnStatusOk;
 }
 
@@ -109,19 +110,19 @@ tarnStatus factorLoop(const S& src, const D& dst, int32_t* piv, int32_t n) {
 // from its first product and is subtracted from the row's value once.
 template <class T, class F, class B, class X>
 void solveLoop(const F& f, const int32_t* piv, const B& b, const X& x, int32_t n) {
-  *x.at(0, 0) = *b.at(0, piv[0]);
+  storeElem(x.at(0, 0), loadElem(b.at(0, piv[0])));
   for (int32_t i = 1; i < n; ++i) {
     const int32_t pi = piv[i];
-    T s = *f.at(pi, 0) * *x.at(0, 0);
-    for (int32_t j = 1; j < i; ++j) s = s + *f.at(pi, j) * *x.at(0, j);
-    *x.at(0, i) = *b.at(0, pi) - s;
+    T s = loadElem(f.at(pi, 0)) * loadElem(x.at(0, 0));
+    for (int32_t j = 1; j < i; ++j) s = s + loadElem(f.at(pi, j)) * loadElem(x.at(0, j));
+    storeElem(x.at(0, i), loadElem(b.at(0, pi)) - s);
   }
-  *x.at(0, n - 1) = *x.at(0, n - 1) / *f.at(piv[n - 1], n - 1);
+  storeElem(x.at(0, n - 1), loadElem(x.at(0, n - 1)) / loadElem(f.at(piv[n - 1], n - 1)));
   for (int32_t i = n - 2; i >= 0; --i) {
     const int32_t pi = piv[i];
-    T s = *f.at(pi, i + 1) * *x.at(0, i + 1);
-    for (int32_t j = i + 2; j < n; ++j) s = s + *f.at(pi, j) * *x.at(0, j);
-    *x.at(0, i) = (*x.at(0, i) - s) / *f.at(pi, i);
+    T s = loadElem(f.at(pi, i + 1)) * loadElem(x.at(0, i + 1));
+    for (int32_t j = i + 2; j < n; ++j) s = s + loadElem(f.at(pi, j)) * loadElem(x.at(0, j));
+    storeElem(x.at(0, i), (loadElem(x.at(0, i)) - s) / loadElem(f.at(pi, i)));
   }
 }
 
@@ -135,7 +136,7 @@ struct Factor {
   void load(const F& f, const int32_t* p) {
     for (int i = 0; i < N; ++i) piv[i] = p[i];
     for (int i = 0; i < N; ++i)
-      for (int j = 0; j < N; ++j) u[i][j] = *f.at(piv[i], j);
+      for (int j = 0; j < N; ++j) u[i][j] = loadElem(f.at(piv[i], j));
   }
 };
 
@@ -146,7 +147,7 @@ template <class T, int N, bool Recip, class B, class X>
 void solveExpanded(const Factor<T, N>& f, const T* recip, const B& b, const X& x) {
   T y[N];
   for (int i = 0; i < N; ++i) {
-    T v = *b.at(0, f.piv[i]);
+    T v = loadElem(b.at(0, f.piv[i]));
     for (int j = 0; j < i; ++j) v = v - f.u[i][j] * y[j];
     y[i] = v;
   }
@@ -155,7 +156,7 @@ void solveExpanded(const Factor<T, N>& f, const T* recip, const B& b, const X& x
     for (int j = i + 1; j < N; ++j) v = v - f.u[i][j] * y[j];
     y[i] = Recip ? v * recip[i] : v / f.u[i][i];
   }
-  for (int i = 0; i < N; ++i) *x.at(0, i) = y[i];
+  for (int i = 0; i < N; ++i) storeElem(x.at(0, i), y[i]);
 }
 
 }  // namespace tarn::lu

@@ -41,7 +41,7 @@ tarnStatus fixedOrder(const S& src, const D& dst, int32_t* piv, int32_t count) {
       int32_t* p = piv + size_t(n + l) * N;
       for (int k = 0; k < N; ++k) {
         const int32_t row = int32_t(out.at(N * N + k, l));
-        for (int c = 0; c < N; ++c) *d.at(row, c) = out.at(k * N + c, l);
+        for (int c = 0; c < N; ++c) storeElem(d.at(row, c), out.at(k * N + c, l));
         p[k] = row;
       }
     }

@@ -22,30 +22,34 @@ void solveOne(const A& a, const B& b, const X& x, T* buffer, int32_t h, int32_t 
   T local[6];
   const bool locals = inLocals(h, w);
   T* const c = locals ? local : buffer;
-  for (int32_t i = 0; i < h; ++i) c[i] = *b.at(0, i);
+  for (int32_t i = 0; i < h; ++i) c[i] = loadElem(b.at(0, i));
   for (int32_t k = 0; k < reflectors(h, w); ++k) {
     const T t = c[k];
     T s = t, q = T(1);
     for (int32_t i = k + 1; i < h; ++i) {
-      const T e = *a.at(i, k);
+      const T e = loadElem(a.at(i, k));
       s = s + c[i] * e;
       q = q + e * e;
     }
     const T g = (T(-2) / q) * s;
     c[k] = t + g;
-    for (int32_t i = k + 1; i < h; ++i) c[i] = c[i] + *a.at(i, k) * g;
+    for (int32_t i = k + 1; i < h; ++i) c[i] = c[i] + loadElem(a.at(i, k)) * g;
   }
   // x in locals for the square orders, stored at the end; otherwise straight into dst.
   T xl[6];
-  auto xs = [&](int32_t j) -> T& { return locals ? xl[j] : *x.at(0, j); };
-  xs(w - 1) = c[w - 1] / *a.at(w - 1, w - 1);
+  auto xget = [&](int32_t j) { return locals ? xl[j] : loadElem(x.at(0, j)); };
+  auto xput = [&](int32_t j, T v) {
+    if (locals) xl[j] = v;
+    else storeElem(x.at(0, j), v);
+  };
+  xput(w - 1, c[w - 1] / loadElem(a.at(w - 1, w - 1)));
   for (int32_t i = w - 2; i >= 0; --i) {
     T s = T(0);
-    for (int32_t j = i + 1; j < w; ++j) s = s + *a.at(i, j) * xs(j);
-    xs(i) = (c[i] - s) / *a.at(i, i);
+    for (int32_t j = i + 1; j < w; ++j) s = s + loadElem(a.at(i, j)) * xget(j);
+    xput(i, (c[i] - s) / loadElem(a.at(i, i)));
   }
   if (locals)
-    for (int32_t j = 0; j < w; ++j) *x.at(0, j) = xl[j];
+    for (int32_t j = 0; j < w; ++j) storeElem(x.at(0, j), xl[j]);
 }
 
 // Arrays: shapes with a body in locals take kLanes right-hand sides at a time, against kLanes
@@ -63,7 +67,7 @@ void walk(const A& a, const B& b, const X& x, T* buffer, int32_t count, int32_t 
     if constexpr (OneMatrix) {
       const auto o = a.obj(0);
       for (int r = 0; r < H; ++r)
-        for (int c = 0; c < W; ++c) m[r][c] = solve::constant<V>(*o.at(r, c));
+        for (int c = 0; c < W; ++c) m[r][c] = solve::constant<V>(loadElem(o.at(r, c)));
       qr::scalesFixed(m, g);
     }
     for (; n < count; n += NL) {

@@ -20,7 +20,7 @@ using qr::reflectors;
 template <class T, class Src, class Dst>
 tarnStatus reduceOne(const Src& s, const Dst& a, T* v, int32_t h, int32_t w) {
   for (int32_t r = 0; r < h; ++r)
-    for (int32_t c = 0; c < w; ++c) *a.at(r, c) = *s.at(r, c);
+    for (int32_t c = 0; c < w; ++c) storeElem(a.at(r, c), loadElem(s.at(r, c)));
   auto pairSum = [&](int32_t k, auto x, auto y) {
     T s0 = 0, s1 = 0;
     int32_t i = k;
@@ -33,22 +33,22 @@ tarnStatus reduceOne(const Src& s, const Dst& a, T* v, int32_t h, int32_t w) {
   };
   const int32_t K = reflectors(h, w);
   for (int32_t k = 0; k < K; ++k) {
-    auto col = [&](int32_t j) { return [&a, j](int32_t i) { return *a.at(i, j); }; };
+    auto col = [&](int32_t j) { return [&a, j](int32_t i) { return loadElem(a.at(i, j)); }; };
     const T n2 = pairSum(k, col(k), col(k));
     if (std::fabs(n2) < kNormLimit<T>) return tarnStatusDivideByZero;
-    const T alpha = *a.at(k, k);
+    const T alpha = loadElem(a.at(k, k));
     T n = std::sqrt(n2);
     if (!(alpha > T(0))) n = T(0) - n;
     const T r = T(1) / (alpha + n);
     v[k] = T(1);
-    for (int32_t i = k + 1; i < h; ++i) v[i] = *a.at(i, k) * r;
+    for (int32_t i = k + 1; i < h; ++i) v[i] = loadElem(a.at(i, k)) * r;
     auto vec = [v](int32_t i) { return v[i]; };
     const T beta = T(-2) / pairSum(k, vec, vec);
     for (int32_t j = k; j < w; ++j) {
       const T s = pairSum(k, col(j), vec) * beta;
-      for (int32_t i = k; i < h; ++i) *a.at(i, j) = *a.at(i, j) + v[i] * s;
+      for (int32_t i = k; i < h; ++i) storeElem(a.at(i, j), loadElem(a.at(i, j)) + v[i] * s);
     }
-    for (int32_t i = k + 1; i < h; ++i) *a.at(i, k) = v[i];
+    for (int32_t i = k + 1; i < h; ++i) storeElem(a.at(i, k), v[i]);
   }
   return tarnStatusOk;
 }

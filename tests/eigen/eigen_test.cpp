@@ -167,6 +167,7 @@ TEST(Eigen, EveryLayoutPlacementAndSingleMatrixGivesTheSameBits) {
         for (size_t k = 0; k < mats.size() && !(fam == "EigenValuesVectorsSym" && esize == 4); ++k)
           EXPECT_TRUE(alone[k].vals[0] == ref.vals[k] && alone[k].vecs[0] == ref.vecs[k]) << at << "object " << k;
         for (const Style& st : styles()) {
+          if (st.misalignBytes % esize) continue;  // the eigen members ask for the element's alignment
           for (const char* suffix : {"", "_L", "_P"}) {
             const Out o = run(member(typed(fam, "_ma", esize) + suffix), n, mats, st);
             EXPECT_TRUE(o.status == 0 && o.vals == ref.vals && o.vecs == ref.vecs) << at << suffix << " " << st.name;

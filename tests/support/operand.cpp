@@ -21,6 +21,7 @@ const std::vector<Style>& styles() {
       {.name = "soa", .soa = true},
       {.name = "guarded", .guard = true},
       {.name = "guarded-padded", .rowPad = 1, .guard = true},
+      {.name = "offElement", .misalignBytes = 2},
   };
   return kStyles;
 }
