@@ -9,10 +9,40 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 #include <utility>
 
 namespace tarn::simd {
+
+// Moves of one element (or a float pair as one 8-byte chunk) between memory and lane 0, through
+// memcpy: defined at any address and whatever type the bytes were written as. Some compilers'
+// headers implement the single-element intrinsics as a plain dereference of a double or float
+// pointer, which is neither. Each compiles to the one move instruction.
+inline __m128 loadSs(const void* p) {
+  float v;
+  std::memcpy(&v, p, sizeof v);
+  return _mm_set_ss(v);
+}
+inline __m128d loadSd(const void* p) {
+  double v;
+  std::memcpy(&v, p, sizeof v);
+  return _mm_set_sd(v);
+}
+inline __m128d loadDupSd(const void* p) {
+  double v;
+  std::memcpy(&v, p, sizeof v);
+  return _mm_set1_pd(v);
+}
+inline void storeSs(void* p, __m128 x) {
+  const float v = _mm_cvtss_f32(x);
+  std::memcpy(p, &v, sizeof v);
+}
+inline void storeSd(void* p, __m128d x) {
+  const double v = _mm_cvtsd_f64(x);
+  std::memcpy(p, &v, sizeof v);
+}
+inline void storeHighSd(void* p, __m128d x) { storeSd(p, _mm_unpackhi_pd(x, x)); }
 
 template <class T> struct VecOf;
 template <> struct VecOf<float> { using type = __m128; static constexpr int lanes = 4; };
@@ -24,24 +54,24 @@ template <class T> inline constexpr int kLanes = VecOf<std::remove_const_t<T>>::
 template <int Len, bool Aligned>
 inline __m128 load(const float* p) {
   if constexpr (Len == 4) return Aligned ? _mm_load_ps(p) : _mm_loadu_ps(p);
-  else if constexpr (Len == 2) return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p)));
-  else return _mm_load_ss(p);
+  else if constexpr (Len == 2) return _mm_castpd_ps(loadSd(p));
+  else return loadSs(p);
 }
 template <int Len, bool Aligned>
 inline __m128d load(const double* p) {
   if constexpr (Len == 2) return Aligned ? _mm_load_pd(p) : _mm_loadu_pd(p);
-  else return _mm_load_sd(p);
+  else return loadSd(p);
 }
 template <int Len, bool Aligned>
 inline void store(float* p, __m128 v) {
   if constexpr (Len == 4) Aligned ? _mm_store_ps(p, v) : _mm_storeu_ps(p, v);
-  else if constexpr (Len == 2) _mm_store_sd(reinterpret_cast<double*>(p), _mm_castps_pd(v));
-  else _mm_store_ss(p, v);
+  else if constexpr (Len == 2) storeSd(p, _mm_castps_pd(v));
+  else storeSs(p, v);
 }
 template <int Len, bool Aligned>
 inline void store(double* p, __m128d v) {
   if constexpr (Len == 2) Aligned ? _mm_store_pd(p, v) : _mm_storeu_pd(p, v);
-  else _mm_store_sd(p, v);
+  else storeSd(p, v);
 }
 
 inline __m128 broadcast(float v) { return _mm_set1_ps(v); }
@@ -149,11 +179,11 @@ inline void transpose2(__m128d& a, __m128d& b) {
 
 // Four single floats from anywhere into one register, in order.
 inline __m128 gather4(const float* a, const float* b, const float* c, const float* d) {
-  const __m128 ab = _mm_unpacklo_ps(_mm_load_ss(a), _mm_load_ss(b));
-  const __m128 cd = _mm_unpacklo_ps(_mm_load_ss(c), _mm_load_ss(d));
+  const __m128 ab = _mm_unpacklo_ps(loadSs(a), loadSs(b));
+  const __m128 cd = _mm_unpacklo_ps(loadSs(c), loadSs(d));
   return _mm_movelh_ps(ab, cd);
 }
-inline __m128d gather2(const double* a, const double* b) { return _mm_loadh_pd(_mm_load_sd(a), b); }
+inline __m128d gather2(const double* a, const double* b) { return _mm_loadh_pd(loadSd(a), b); }
 
 // A 4-byte store that bypasses the caches; storeFence() orders all of them before what follows.
 inline void streamStore(float* p, const float* s) {
@@ -226,7 +256,7 @@ inline __m128 sqrtLanes(__m128 v) { return _mm_sqrt_ps(v); }
 
 // Three floats (x, y, z, 0) with an 8-byte and a 4-byte load: nothing behind p[2] is read.
 inline __m128 load3(const float* p) {
-  return _mm_movelh_ps(_mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p))), _mm_load_ss(p + 2));
+  return _mm_movelh_ps(_mm_castpd_ps(loadSd(p)), loadSs(p + 2));
 }
 
 // Four packed 3-vectors (48 bytes as a, b, c) into lanes by object: x, y, z of objects 0..3.
@@ -239,7 +269,7 @@ inline void deinterleave3(__m128 a, __m128 b, __m128 c, __m128& x, __m128& y, __
   z = _mm_shuffle_ps(n, c, _MM_SHUFFLE(3, 0, 3, 1));
 }
 // A 3-vector as (x, 0, y, z): one 4-byte and one 8-byte load.
-inline __m128 loadX0YZ(const float* p) { return _mm_loadh_pi(_mm_load_ss(p), reinterpret_cast<const __m64*>(p + 1)); }
+inline __m128 loadX0YZ(const float* p) { return _mm_loadh_pi(loadSs(p), reinterpret_cast<const __m64*>(p + 1)); }
 // Lanes (0, 2, 3) of the result read lanes (2, 3, 0) of v.
 inline __m128 rotateX0YZ(__m128 v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(0, 3, 1, 2)); }
 // (v1, v2, v0, v3).
@@ -247,7 +277,7 @@ inline __m128 rotateYZX(__m128 v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(3, 0
 // Lanes 2 and 3 to p[0] and p[1], lane 0 to p[2].
 inline void storeYZX(float* p, __m128 v) {
   _mm_storeh_pi(reinterpret_cast<__m64*>(p), v);
-  _mm_store_ss(p + 2, v);
+  storeSs(p + 2, v);
 }
 
 }  // namespace tarn::simd
@@ -294,7 +324,7 @@ namespace tarn::simd {
 template <int N>
 inline __m128 loadVec(const float* p) {
   if constexpr (N == 4) return _mm_loadu_ps(p);
-  else if constexpr (N == 3) return _mm_movelh_ps(load<2, false>(p), _mm_load_ss(p + 2));
+  else if constexpr (N == 3) return _mm_movelh_ps(load<2, false>(p), loadSs(p + 2));
   else return load<2, false>(p);
 }
 template <int N>
@@ -302,7 +332,7 @@ inline void storeVec(float* p, __m128 v) {
   if constexpr (N == 4) _mm_storeu_ps(p, v);
   else {
     store<2, false>(p, v);
-    if constexpr (N == 3) _mm_store_ss(p + 2, _mm_movehl_ps(v, v));
+    if constexpr (N == 3) storeSs(p + 2, _mm_movehl_ps(v, v));
   }
 }
 
@@ -349,18 +379,18 @@ inline void scatter3(float* p, int32_t stride, __m128 x, __m128 y, __m128 z) {
   auto at = [&](int k) { return reinterpret_cast<float*>(reinterpret_cast<char*>(p) + std::ptrdiff_t(k) * stride); };
   const __m128 lo = _mm_unpacklo_ps(x, y), hi = _mm_unpackhi_ps(x, y);
   store<2, false>(at(0), lo);
-  _mm_store_ss(at(0) + 2, z);
+  storeSs(at(0) + 2, z);
   if constexpr (K > 1) {
     storeHigh(at(1), lo);
-    _mm_store_ss(at(1) + 2, splat<1>(z));
+    storeSs(at(1) + 2, splat<1>(z));
   }
   if constexpr (K > 2) {
     store<2, false>(at(2), hi);
-    _mm_store_ss(at(2) + 2, _mm_movehl_ps(z, z));
+    storeSs(at(2) + 2, _mm_movehl_ps(z, z));
   }
   if constexpr (K > 3) {
     storeHigh(at(3), hi);
-    _mm_store_ss(at(3) + 2, splat<3>(z));
+    storeSs(at(3) + 2, splat<3>(z));
   }
 }
 
@@ -565,7 +595,7 @@ namespace tarn::simd {
 
 template <int Len>
 inline __m128 loadPart(const float* p) {
-  if constexpr (Len == 3) return _mm_movelh_ps(load<2, false>(p), _mm_load_ss(p + 2));
+  if constexpr (Len == 3) return _mm_movelh_ps(load<2, false>(p), loadSs(p + 2));
   else return load<Len, false>(p);
 }
 template <int Len>
@@ -576,7 +606,7 @@ template <int Len>
 inline void storePart(float* p, __m128 v) {
   if constexpr (Len == 3) {
     store<2, false>(p, v);
-    _mm_store_ss(p + 2, _mm_movehl_ps(v, v));
+    storeSs(p + 2, _mm_movehl_ps(v, v));
   } else {
     store<Len, false>(p, v);
   }
@@ -606,7 +636,7 @@ inline double reduce(__m128d v) { return _mm_cvtsd_f64(_mm_add_sd(v, _mm_unpackh
 inline void prefetch(uintptr_t p) { _mm_prefetch(reinterpret_cast<const char*>(p), _MM_HINT_T0); }
 
 // The float pair at p in both halves (p0 p1 p0 p1): a load, no shuffle.
-inline __m128 dupPair(const float* p) { return _mm_castpd_ps(_mm_loaddup_pd(reinterpret_cast<const double*>(p))); }
+inline __m128 dupPair(const float* p) { return _mm_castpd_ps(loadDupSd(p)); }
 // (a0, a1, b0, b1) and (a2, a3, b2, b3), as a pair of doubles moves; (a0 b0 a1 b1), (a2 b2 a3 b3).
 inline __m128 lowHalves(__m128 a, __m128 b) { return _mm_movelh_ps(a, b); }
 inline __m128 highHalves(__m128 a, __m128 b) { return _mm_movehl_ps(b, a); }

@@ -220,8 +220,8 @@ inline void scatter(const View (&views)[K * kLanes<T>], const Lanes<T, K> (&x)[H
             simd::store<2, false>(v[0].rowPtr(r0 + r) + off, y0);
             if (m > 1) simd::store<2, false>(v[1].rowPtr(r0 + r) + off, y1);
           } else {
-            _mm_store_sd(v[0].rowPtr(r0 + r) + off, x[r][off].v[k]);
-            if (m > 1) _mm_storeh_pd(v[1].rowPtr(r0 + r) + off, x[r][off].v[k]);
+            simd::storeSd(v[0].rowPtr(r0 + r) + off, x[r][off].v[k]);
+            if (m > 1) simd::storeHighSd(v[1].rowPtr(r0 + r) + off, x[r][off].v[k]);
           }
         });
     } else {
